@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "platform/Service.h"
+
+namespace orlamo {
+
+/// The program's settings: typed values by key, in the file that the user's configuration folder holds for it.
+/// Reads see what is stored now, also what another program wrote there meanwhile.
+class UserDefaults : public Service<UserDefaults> {
+public:
+    using Data = std::vector<std::uint8_t>;
+    using Value = std::variant<std::monostate, bool, std::int64_t, double, std::string, Data>;
+
+    virtual ~UserDefaults() = default;
+    static UserDefaults& standardUserDefaults() { return shared(); }
+
+    /// The stored value; std::monostate when the key is absent.
+    virtual Value objectForKey(std::string_view key) = 0;
+    /// Stores at once. When the file cannot be written this process keeps the value, the log says so, and the next
+    /// write or synchronize tries again.
+    virtual void setObject(std::string_view key, Value value) = 0;
+    virtual void removeObject(std::string_view key) = 0;
+    /// True when everything that was set is on the disk.
+    virtual bool synchronize() = 0;
+
+    // Typed reads. A value that cannot be converted reads like an absent one.
+    /// Numbers other than 0, and texts that start with a digit 1-9, Y, y, T or t, are true; absent is false.
+    bool boolForKey(std::string_view key);
+    /// Numbers toward zero, booleans as 0 or 1, the number a text starts with; absent is 0.
+    std::int64_t integerForKey(std::string_view key);
+    /// Texts, and numbers in decimal.
+    std::optional<std::string> stringForKey(std::string_view key);
+    std::optional<Data> dataForKey(std::string_view key);
+};
+
+}  // namespace orlamo

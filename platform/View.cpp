@@ -1,0 +1,72 @@
+#include "platform/View.h"
+
+#include "platform/Window.h"
+
+namespace orlamo {
+
+View::View(Rect frame) : frame_(frame) {}
+
+View::~View() = default;
+
+void View::setFrame(const Rect& frame) {
+    const Size oldSize = frame_.size();
+    frame_ = frame;
+    if (frame_.size() != oldSize) resizeSubviewsWithOldSize(oldSize);
+}
+
+Window* View::window() const {
+    const View* view = this;
+    while (view->superview_ != nullptr) view = view->superview_;
+    return view->window_;
+}
+
+View& View::addSubview(std::unique_ptr<View> view) {
+    View& added = *view;
+    added.superview_ = this;
+    subviews_.push_back(std::move(view));
+    added.viewDidMoveToSuperview();
+    added.setNeedsDisplay(true);
+    return added;
+}
+
+void View::setNeedsDisplay(bool needed) {
+    needsDisplay_ = needed;
+    if (!needed) return;
+    if (Window* const in = window()) in->viewNeedsDisplay();
+}
+
+void View::display(GraphicsContext& context) {
+    needsDisplay_ = false;
+    drawRect(context, bounds());
+    for (const auto& view : subviews_) {
+        context.pushOrigin({view->frame_.x, view->frame_.y});
+        view->display(context);
+        context.popOrigin();
+    }
+}
+
+Point View::convertPointFromView(Point point, const View* from) const {
+    for (const View* view = from; view != nullptr; view = view->superview_) {
+        point.x += view->frame_.x;
+        point.y += view->frame_.y;
+    }
+    for (const View* view = this; view != nullptr; view = view->superview_) {
+        point.x -= view->frame_.x;
+        point.y -= view->frame_.y;
+    }
+    return point;
+}
+
+View* View::hitTest(Point point) {
+    const Point own{point.x - frame_.x, point.y - frame_.y};
+    for (auto view = subviews_.rbegin(); view != subviews_.rend(); ++view) {
+        if (View* const hit = (*view)->hitTest(own)) return hit;
+    }
+    return hearsPressAt(own) ? this : nullptr;
+}
+
+void View::drawRect(GraphicsContext&, const Rect&) {}
+
+void View::resizeSubviewsWithOldSize(Size) {}
+
+}  // namespace orlamo

@@ -1,0 +1,109 @@
+#include "platform/Window.h"
+
+#include <utility>
+
+#include "platform/WindowController.h"
+
+namespace orlamo {
+
+namespace {
+
+bool anyNeedsDisplay(const View& view) {
+    if (view.needsDisplay()) return true;
+    for (const auto& subview : view.subviews()) {
+        if (anyNeedsDisplay(*subview)) return true;
+    }
+    return false;
+}
+
+// Tells a view tree where the pointer is; no position means outside the window.
+void track(View& view, const Point* pointInWindow) {
+    for (std::size_t i = 0; i < view.trackingAreas().size(); ++i) {
+        TrackingArea& area = view.trackingAreas()[i];
+        const MouseEvent event{pointInWindow != nullptr ? *pointInWindow : Point{}};
+        const bool inside =
+            pointInWindow != nullptr && area.rect.contains(view.convertPointFromView(*pointInWindow, nullptr));
+        const unsigned options = area.options;
+        const bool wasInside = std::exchange(area.pointerInside, inside);
+        if ((options & TrackingArea::mouseEnteredAndExited) != 0 && inside != wasInside) {
+            inside ? view.mouseEntered(event) : view.mouseExited(event);
+        }
+        if ((options & TrackingArea::mouseMoved) != 0 && inside) view.mouseMoved(event);
+    }
+    for (const auto& subview : view.subviews()) track(*subview, pointInWindow);
+}
+
+}  // namespace
+
+Window::Window(Rect contentRect, unsigned styleMask, Backing backing, Defer defer)
+    : frame_(contentRect), styleMask_(styleMask), backing_(backing), defer_(defer) {}
+
+Window::~Window() {
+    if (windowController != nullptr) windowController->setWindow(nullptr);
+}
+
+void Window::setContentView(std::unique_ptr<View> view) {
+    contentView_ = std::move(view);
+    if (contentView_ == nullptr) return;
+    contentView_->window_ = this;
+    contentView_->setFrame({0, 0, frame_.width, frame_.height});
+    viewNeedsDisplay();
+}
+
+void Window::setContentSize(Size size) {
+    setFrame({frame_.x, frame_.maxY() - size.height, size.width, size.height});
+}
+
+void Window::center() {
+    const auto screen = WindowSystem::shared().mainScreen();
+    if (!screen) return;
+    setFrame({screen->frame.x + (screen->frame.width - frame_.width) / 2,
+              screen->frame.y + (screen->frame.height - frame_.height) / 2, frame_.width, frame_.height});
+}
+
+void Window::orderFront() {
+    if (host_ == nullptr) host_ = WindowSystem::shared().createHost(*this);
+    isVisible_ = true;
+    host_->orderFront();
+}
+
+void Window::close() {
+    if (!isVisible_) return;
+    isVisible_ = false;
+    host_->orderOut();
+    if (isReleasedWhenClosed) host_.reset();
+}
+
+void Window::display(GraphicsContext& context) {
+    if (contentView_ != nullptr) contentView_->display(context);
+}
+
+bool Window::needsDisplay() const {
+    return contentView_ != nullptr && anyNeedsDisplay(*contentView_);
+}
+
+void Window::pointerMoved(Point point) {
+    if (contentView_ != nullptr) track(*contentView_, &point);
+}
+
+void Window::pointerLeft() {
+    if (contentView_ != nullptr) track(*contentView_, nullptr);
+}
+
+void Window::pointerPressed(Point point) {
+    if (contentView_ == nullptr) return;
+    if (View* const view = contentView_->hitTest(point)) view->mouseDown({point});
+}
+
+void Window::viewNeedsDisplay() {
+    if (isVisible_ && host_ != nullptr) host_->setNeedsDisplay();
+}
+
+void Window::setFrame(const Rect& frame) {
+    if (frame == frame_) return;
+    frame_ = frame;
+    if (contentView_ != nullptr) contentView_->setFrame({0, 0, frame.width, frame.height});
+    if (host_ != nullptr) host_->frameChanged(frame);
+}
+
+}  // namespace orlamo
