@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/EventPoster.h"
+
+namespace orlamo {
+
+class FakeEventPoster : public EventPoster {
+public:
+    struct Posted {
+        EventTapLocation tap;
+        KeyboardEvent event;
+    };
+
+    void CGEventPost(EventTapLocation tap, const KeyboardEvent& event) override { posted.push_back({tap, event}); }
+
+    std::vector<Posted> posted;
+
+private:
+    Installation installation_{*this};
+};
+
+}  // namespace orlamo

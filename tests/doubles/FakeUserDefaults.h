@@ -1,0 +1,40 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "platform/UserDefaults.h"
+
+namespace orlamo {
+
+class FakeUserDefaults : public UserDefaults {
+public:
+    Value objectForKey(std::string_view key) override {
+        const auto found = values.find(key);
+        return found == values.end() ? Value() : found->second;
+    }
+    void setObject(std::string_view key, Value value) override {
+        values.insert_or_assign(std::string(key), std::move(value));
+        ++writes;
+    }
+    void removeObject(std::string_view key) override {
+        const auto found = values.find(key);
+        if (found != values.end()) values.erase(found);
+    }
+    bool synchronize() override {
+        ++synchronizations;
+        return synchronizeSucceeds;
+    }
+
+    std::map<std::string, Value, std::less<>> values;
+    int writes = 0;
+    int synchronizations = 0;
+    bool synchronizeSucceeds = true;
+
+private:
+    Installation installation_{*this};
+};
+
+}  // namespace orlamo

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/Workspace.h"
+
+namespace orlamo {
+
+class FakeWorkspace : public Workspace {
+public:
+    std::optional<RunningApplication> frontmostApplication() override { return frontmost; }
+
+    std::vector<RunningApplication> runningApplicationsWithBundleIdentifier(std::string_view identifier) override {
+        std::vector<RunningApplication> found;
+        for (const RunningApplication& application : running) {
+            if (application.bundleIdentifier == identifier) found.push_back(application);
+        }
+        return found;
+    }
+
+    bool activateWithOptions(const RunningApplication& application, unsigned options) override {
+        activations.push_back({application.processIdentifier, options});
+        if (onActivate) onActivate(application);
+        return activationSucceeds;
+    }
+
+    std::optional<RunningApplication> frontmost;
+    std::vector<RunningApplication> running;  // the most recently active first
+    bool activationSucceeds = true;
+    std::vector<std::pair<int, unsigned>> activations;  // process id, options
+    std::function<void(const RunningApplication&)> onActivate;
+
+private:
+    Installation installation_{*this};
+};
+
+}  // namespace orlamo
