@@ -1,0 +1,43 @@
+# The commands of this project. `make help` lists them.
+.DEFAULT_GOAL := help
+.PHONY: help run test bench format check tidy hooks clean
+
+help: ## this list
+	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "make %-8s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
+
+run: ## build and start Orlamo; without a display, show it on one of its own
+	@scripts/setup build run
+	@cmake --preset release
+	@cmake --build --preset release --target orlamo
+	@scripts/run
+
+test: ## build everything and run all tests
+	@scripts/setup build run demo test
+	@cmake --preset release
+	@cmake --build --preset release
+	@ctest --preset release
+
+bench: ## run the measurements of docs/performance.md
+	@scripts/setup build run demo test bench
+	@cmake --preset bench
+	@cmake --build --preset bench
+	@bench/run
+
+format: ## format all C++ files
+	@scripts/setup test
+	@scripts/check --fix
+
+check: ## formatting and house rules, as the pre-commit hook does
+	@scripts/check
+
+tidy: ## clang-tidy over all C++ files
+	@scripts/setup build tidy
+	@cmake --preset release > /dev/null
+	@cmake --build --preset release
+	@scripts/tidy
+
+hooks: ## check every commit before it is made
+	@git config core.hooksPath scripts/hooks
+
+clean: ## remove everything that was built
+	@rm -rf build

@@ -1,0 +1,94 @@
+"""What an application offers on the accessibility bus, as far as the tests must know it: is its menu bar there, what
+does its text hold."""
+import gi
+
+gi.require_version("Gio", "2.0")
+from gi.repository import Gio, GLib  # noqa: E402
+
+REGISTRY = "org.a11y.atspi.Registry"
+ROOT = "/org/a11y/atspi/accessible/root"
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+MENU_BAR, TEXT = 34, 61  # AtspiRole
+ACTIVE = 1  # AtspiStateType
+
+
+def connect(address):
+    flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
+    connection = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+    connection.set_exit_on_close(False)
+    return connection
+
+
+def call(connection, name, path, interface, method, arguments=None, milliseconds=2000):
+    """The answer's values; None when there is no answer."""
+    try:
+        answer = connection.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE,
+                                      milliseconds, None)
+    except GLib.Error:
+        return None
+    return answer.unpack()
+
+
+def switch_on(session_bus):
+    call(session_bus, "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
+         GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True))))
+
+
+def bus_address(session_bus):
+    answer = call(session_bus, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress")
+    return answer[0] if answer else None
+
+
+def pid_of(connection, name):
+    """The process that owns a name on the bus; None when nobody does."""
+    answer = call(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                  "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))
+    return answer[0] if answer else None
+
+
+class AccessibleApplication:
+    """One process on the accessibility bus."""
+
+    def __init__(self, bus, pid):
+        self.bus = bus
+        self.pid = pid
+
+    def _root(self):
+        found = call(self.bus, REGISTRY, ROOT, ACCESSIBLE, "GetChildren")
+        for name, path in (found or ([],))[0]:
+            if pid_of(self.bus, name) == self.pid:
+                return name, path
+        return None
+
+    def _children(self, element):
+        found = call(self.bus, *element, ACCESSIBLE, "GetChildren")
+        return [tuple(child) for child in found[0]] if found else []
+
+    def _role(self, element):
+        found = call(self.bus, *element, ACCESSIBLE, "GetRole")
+        return found[0] if found else None
+
+    def _is_active(self, element):
+        found = call(self.bus, *element, ACCESSIBLE, "GetState")
+        return bool(found and found[0][0] >> ACTIVE & 1)
+
+    def _find(self, role, depth):
+        root = self._root()
+        level = [window for window in self._children(root) if self._is_active(window)] if root else []
+        for _ in range(depth):
+            for element in level:
+                if self._role(element) == role:
+                    return element
+            level = [child for element in level for child in self._children(element)]
+        return None
+
+    def has_menu_bar(self):
+        """Whether its active window holds a menu bar with at least three menus."""
+        found = self._find(MENU_BAR, 6)
+        return found is not None and len(self._children(found)) >= 3
+
+    def text(self):
+        """The text of the first text field of its active window; None when there is none."""
+        found = self._find(TEXT, 14)
+        answer = found and call(self.bus, *found, "org.a11y.atspi.Text", "GetText", GLib.Variant("(ii)", (0, -1)))
+        return answer[0] if answer else None

@@ -1,0 +1,59 @@
+"""What every desktop test has: a private desktop, the program in it, and evidence when it fails."""
+import os
+import pathlib
+import shutil
+import time
+import unittest
+
+from program import Program
+from session import DesktopSession
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+PROGRAM = os.environ.get("ORLAMO_PROGRAM", str(ROOT / "build/release/orlamo"))
+EVIDENCE = pathlib.Path(os.environ.get("ORLAMO_EVIDENCE", ROOT / "build/desktop-tests"))
+
+
+class DesktopTest(unittest.TestCase):
+    """A test may set the session's arguments, and settings and environment of the program, in its class."""
+
+    session_arguments = {}
+    settings = None
+    program_environment = None
+
+    def setUp(self):
+        self.session = self.enterContext(DesktopSession(**self.session_arguments))
+        self.addCleanup(self._keep_evidence)
+        self.screen = self.session.screen
+        self.screen.paint_root(200, 40, 120)
+
+    def start_program(self, **arguments):
+        arguments.setdefault("settings", self.settings)
+        arguments.setdefault("environment", self.program_environment)
+        self.program = Program(self.session, PROGRAM, **arguments)
+        return self.program
+
+    @staticmethod
+    def wait_out_the_double_press():
+        """Until the next press counts as a first one. This time is the user's, not the program's."""
+        time.sleep(0.55)
+
+    @staticmethod
+    def point_beside(area, other):
+        """A point of `area` that does not lie in `other`."""
+        x, y, width, height = area
+        left, top, across, down = other
+        for px in range(x + 5, x + width, 10):
+            for py in range(y + 5, y + height, 10):
+                if not (left - 2 <= px <= left + across + 2 and top - 2 <= py <= top + down + 2):
+                    return px, py
+        raise AssertionError(f"{other} covers {area}")
+
+    def _keep_evidence(self):
+        if self._outcome.success:
+            return
+        folder = EVIDENCE / self._testMethodName
+        folder.mkdir(parents=True, exist_ok=True)
+        self.screen.picture().save(folder / "screen.png")
+        for log in self.session.folder.glob("*.log"):
+            shutil.copy(log, folder)
+        print(f"evidence in {folder}")

@@ -1,0 +1,158 @@
+"""One X display as a user has it: keys, pointer, windows, what is seen. Positions are pixels from the top left."""
+import time
+
+from PIL import Image
+from Xlib import X, XK, Xatom, display, error
+from Xlib.ext import xtest
+
+STEP = 0.01  # seconds between two looks at a condition
+
+
+class Timeout(AssertionError):
+    """What was waited for did not come."""
+
+
+def wait_until(condition, seconds, what):
+    """Returns the first true answer of `condition`; raises Timeout naming `what`."""
+    deadline = time.monotonic() + seconds
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > deadline:
+            raise Timeout(f"no {what} within {seconds} s")
+        time.sleep(STEP)
+
+
+class Screen:
+    CTRL, ALT, SHIFT, SUPER, ESCAPE = "Control_L", "Alt_L", "Shift_L", "Super_L", "Escape"
+
+    def __init__(self, name):
+        self.display = display.Display(name)
+        self.root = self.display.screen().root
+        self.width = self.display.screen().width_in_pixels
+        self.height = self.display.screen().height_in_pixels
+
+    def close(self):
+        self.display.close()
+
+    # Keys and pointer, through the test extension: every program sees them as the user's own.
+    def _key(self, name, event):
+        code = self.display.keysym_to_keycode(XK.string_to_keysym(name))
+        xtest.fake_input(self.display, event, code)
+        self.display.sync()
+
+    def press(self, *names):
+        for name in names:
+            self._key(name, X.KeyPress)
+
+    def release(self, *names):
+        for name in reversed(names):
+            self._key(name, X.KeyRelease)
+
+    def tap(self, *names):
+        """A combination: held modifiers first, the key last."""
+        self.press(*names)
+        self.release(*names)
+
+    def double_press(self, name=CTRL):
+        self.tap(name)
+        self.tap(name)
+
+    def type(self, letters):
+        for letter in letters:
+            self.tap(letter)
+
+    def move_pointer(self, x, y):
+        xtest.fake_input(self.display, X.MotionNotify, x=int(x), y=int(y))
+        self.display.sync()
+
+    def click(self, x, y):
+        self.move_pointer(x, y)
+        xtest.fake_input(self.display, X.ButtonPress, 1)
+        xtest.fake_input(self.display, X.ButtonRelease, 1)
+        self.display.sync()
+
+    # Windows.
+    def _property(self, window, name, kind):
+        try:
+            found = window.get_full_property(self.display.intern_atom(name), kind)
+        except (error.BadWindow, error.BadDrawable):
+            return None
+        return found.value if found is not None and len(found.value) else None
+
+    def pid_of(self, window):
+        found = self._property(window, "_NET_WM_PID", Xatom.CARDINAL)
+        return found[0] if found is not None else None
+
+    def title_of(self, window):
+        found = self._property(window, "_NET_WM_NAME", self.display.intern_atom("UTF8_STRING"))
+        if found is None:
+            found = self._property(window, "WM_NAME", X.AnyPropertyType)
+        return found.decode("utf-8", "replace") if isinstance(found, bytes) else (found or "")
+
+    def active_window(self):
+        found = self._property(self.root, "_NET_ACTIVE_WINDOW", Xatom.WINDOW)
+        return self.display.create_resource_object("window", found[0]) if found is not None and found[0] else None
+
+    def active_pid(self):
+        window = self.active_window()
+        return self.pid_of(window) if window else None
+
+    def window_manager_runs(self):
+        return self._property(self.root, "_NET_SUPPORTING_WM_CHECK", Xatom.WINDOW) is not None
+
+    def compositor_runs(self):
+        return self.display.get_selection_owner(self.display.intern_atom("_NET_WM_CM_S0")) != X.NONE
+
+    def geometry_of(self, window):
+        """(x, y, width, height) on the screen; None when the window is gone."""
+        try:
+            size = window.get_geometry()
+            place = window.translate_coords(self.root, 0, 0)
+        except (error.BadWindow, error.BadDrawable, error.BadMatch):
+            return None
+        return (-place.x, -place.y, size.width, size.height)
+
+    def windows_of(self, pid):
+        """The windows of that process that can be seen, the topmost last."""
+        return [window for window in self._seen(self.root) if self.pid_of(window) == pid]
+
+    def _seen(self, parent):
+        try:
+            children = parent.query_tree().children
+        except (error.BadWindow, error.BadDrawable):
+            return
+        for child in children:
+            try:
+                if child.get_attributes().map_state == X.IsViewable:
+                    yield child
+            except (error.BadWindow, error.BadDrawable):
+                continue
+            yield from self._seen(child)
+
+    # What is seen.
+    def picture(self, area=None):
+        x, y, width, height = area or (0, 0, self.width, self.height)
+        left, top = max(x, 0), max(y, 0)
+        right, bottom = min(x + width, self.width), min(y + height, self.height)
+        raw = self.root.get_image(left, top, right - left, bottom - top, X.ZPixmap, 0xFFFFFFFF)
+        return Image.frombytes("RGB", (right - left, bottom - top), raw.data, "raw", "BGRX")
+
+    def pixel(self, x, y):
+        return self.picture((x, y, 1, 1)).getpixel((0, 0))
+
+    def paint_root(self, red, green, blue):
+        """One colour behind all windows, so that a test knows what a clear corner shows."""
+        self.root.change_attributes(background_pixel=red << 16 | green << 8 | blue)
+        self.root.clear_area(0, 0, 0, 0)
+        self.display.sync()
+
+
+def near(colour, wanted, tolerance=12):
+    return all(abs(a - b) <= tolerance for a, b in zip(colour, wanted))
+
+
+def count_near(picture, wanted, tolerance=12):
+    """How many pixels have about that colour."""
+    return sum(count for count, colour in picture.getcolors(1 << 24) if near(colour, wanted, tolerance))

@@ -1,0 +1,167 @@
+"""A private desktop for one test: X server, session bus, accessibility bus, window manager, home folder."""
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+
+import accessible
+from screen import Screen, wait_until
+
+PATIENCE = 20  # seconds for a program to come up on a busy machine
+
+OPENBOX = """<?xml version="1.0" encoding="UTF-8"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <focus><focusNew>yes</focusNew><followMouse>no</followMouse></focus>
+  <keyboard>{keys}</keyboard>
+  <mouse>
+    <context name="Client">
+      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
+    </context>
+  </mouse>
+</openbox_config>
+"""
+KEY = '<keybind key="{key}"><action name="Execute"><command>{command}</command></action></keybind>'
+
+
+class DesktopSession:
+    """Starts in __enter__, ends everything it started in __exit__, and nothing else."""
+
+    def __init__(self, size="1440x900x24", keys=None, server=()):
+        """`keys` maps a key in the window manager's own words ("W-d") to the shell command it runs; `server` holds
+        further words of the X server's command line."""
+        self._size = size
+        self._keys = keys or {}
+        self._server = server
+        self._started = []
+        self.screen = self.session_bus = self.accessibility_bus = None
+
+    def __enter__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orlamo-"))
+        try:
+            self._prepare_folders()
+            self._start_server()
+            self._start_buses()
+            self._start_window_manager()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        if self.screen:
+            self.screen.close()
+        for process in reversed(self._started):
+            self.stop(process)
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def _prepare_folders(self):
+        keep = {name: os.environ[name] for name in ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
+                if name in os.environ}
+        self.environment = {**keep, "LANG": "C.UTF-8", "HOME": str(self.folder), "TMPDIR": str(self.folder),
+                            "QT_QPA_PLATFORM": "xcb", "GDK_BACKEND": "x11", "GSETTINGS_BACKEND": "keyfile"}
+        for name, place in (("XDG_CONFIG_HOME", "config"), ("XDG_DATA_HOME", "data"), ("XDG_CACHE_HOME", "cache"),
+                            ("XDG_STATE_HOME", "state"), ("XDG_RUNTIME_DIR", "run")):
+            folder = self.folder / place
+            folder.mkdir(mode=0o700)
+            self.environment[name] = str(folder)
+        self.config = self.folder / "config"
+
+    def _start_server(self):
+        reading, writing = os.pipe()
+        self.start(["Xvfb", "-displayfd", str(writing), "-noreset", "-nolisten", "tcp", "-screen", "0", self._size,
+                    *self._server], pass_fds=(writing,))
+        os.close(writing)
+        with os.fdopen(reading) as number:
+            self.environment["DISPLAY"] = ":" + number.readline().strip()
+        self.screen = Screen(self.environment["DISPLAY"])
+
+    def _start_buses(self):
+        reading, writing = os.pipe()
+        self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"], pass_fds=(writing,))
+        os.close(writing)
+        with os.fdopen(reading) as address:
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = address.readline().strip()
+        self.session_bus = accessible.connect(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+        self.start_accessibility()
+
+    def start_accessibility(self):
+        """Also after it was stopped: a new bus under a new address."""
+        self.accessibility = self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
+        wait_until(lambda: accessible.pid_of(self.session_bus, "org.a11y.Bus") == self.accessibility.pid, PATIENCE,
+                   "accessibility launcher")  # asking it for the address sooner would start a second one
+        address = wait_until(lambda: accessible.bus_address(self.session_bus), PATIENCE, "accessibility bus")
+        accessible.switch_on(self.session_bus)
+        self.accessibility_bus = accessible.connect(address)
+
+    def _start_window_manager(self):
+        keys = "".join(KEY.format(key=key, command=command) for key, command in self._keys.items())
+        settings = self.folder / "openbox.xml"
+        settings.write_text(OPENBOX.format(keys=keys))
+        self.start(["openbox", "--sm-disable", "--config-file", str(settings)])
+        wait_until(self.screen.window_manager_runs, PATIENCE, "window manager")
+
+    def start_compositor(self):
+        self.start(["picom", "--config", "/dev/null", "--backend", "xrender"])
+        wait_until(self.screen.compositor_runs, PATIENCE, "compositor")
+
+    # Processes.
+    def start(self, words, output=subprocess.DEVNULL, environment=None, pass_fds=()):
+        """A process in a group of its own; it ends with the session."""
+        process = subprocess.Popen(words, env={**self.environment, **(environment or {})}, cwd=self.folder,
+                                   stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
+                                   start_new_session=True, pass_fds=pass_fds)
+        self._started.append(process)
+        return process
+
+    def stop(self, process, how=signal.SIGTERM):
+        """Ends the process with its group and waits for it."""
+        for number in (how, signal.SIGKILL):
+            try:
+                os.killpg(process.pid, number)
+                os.killpg(process.pid, signal.SIGCONT)
+            except ProcessLookupError:
+                pass
+            try:
+                process.wait(3)
+                break
+            except subprocess.TimeoutExpired:
+                continue
+        if process in self._started:
+            self._started.remove(process)
+
+    def open_editor(self, program, text="one two three\n"):
+        """An editor in front with a file of that text, its menus readable."""
+        file = self.folder / f"{program}-{len(self._started)}.txt"
+        file.write_text(text)
+        process = self.start([program, str(file)])
+        editor = Application(self, process, file)
+        editor.wait_until_in_front()
+        return editor
+
+
+class Application:
+    """A program of the desktop that a test uses as its user would."""
+
+    def __init__(self, session, process, file=None):
+        self.session = session
+        self.process = process
+        self.pid = process.pid
+        self.file = file
+
+    def is_in_front(self):
+        return self.session.screen.active_pid() == self.pid
+
+    def accessible(self):
+        return accessible.AccessibleApplication(self.session.accessibility_bus, self.pid)
+
+    def text(self):
+        return self.accessible().text()
+
+    def windows(self):
+        return self.session.screen.windows_of(self.pid)
+
+    def wait_until_in_front(self):
+        wait_until(self.is_in_front, PATIENCE, f"window of process {self.pid} in front")
+        wait_until(self.accessible().has_menu_bar, PATIENCE, f"menu bar of process {self.pid}")

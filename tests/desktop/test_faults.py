@@ -1,0 +1,76 @@
+"""What goes wrong around the program stays around it."""
+import os
+import signal
+import time
+
+from case import DesktopTest
+from program import SHOWS
+from screen import wait_until
+
+
+class Faults(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.start_program()
+
+    def assert_works(self, seconds=5):
+        self.session.open_editor("mousepad")
+        self.wait_out_the_double_press()
+        self.program.open_panel(seconds=seconds)
+
+    def answer_time(self):
+        """Seconds from the double press until the program has read what it could and takes events again."""
+        since = self.program.log.mark()
+        start = time.monotonic()
+        self.screen.double_press()
+        self.program.log.wait_for(SHOWS, since)
+        after = self.program.log.mark()
+        self.screen.double_press()
+        self.program.log.wait_for("双击command", after)
+        return time.monotonic() - start
+
+    def test_a_stopped_application_is_answered_within_about_a_second(self):
+        editor = self.session.open_editor("mousepad")
+        os.kill(editor.pid, signal.SIGSTOP)
+        self.assertLess(self.answer_time(), 1.5)
+        self.session.stop(editor.process, signal.SIGKILL)
+        self.program.wait_until_closed()
+        self.assert_works()
+
+    def test_an_application_killed_under_the_open_panel_harms_nothing(self):
+        editor = self.session.open_editor("mousepad")
+        self.program.open_panel()
+        position = self.program.hover("Select All")
+        self.session.stop(editor.process, signal.SIGKILL)
+        since = self.program.log.mark()
+        self.screen.click(*position)
+        self.program.log.wait_for("点击操作失败，错误码：", since)
+        self.program.wait_until_closed()
+        self.assert_works()
+
+    def test_after_a_restart_of_the_accessibility_bus_the_panel_works_within_two_seconds(self):
+        editor = self.session.open_editor("mousepad")
+        self.program.open_panel()
+        self.screen.tap(self.screen.ESCAPE)
+        self.program.wait_until_closed()
+        self.session.stop(editor.process)
+        self.session.stop(self.session.accessibility, signal.SIGKILL)
+        self.session.start_accessibility()
+        self.assert_works(seconds=2)
+
+    def test_without_an_accessibility_bus_no_panel_opens_and_the_program_lives_on(self):
+        self.session.open_editor("mousepad")
+        self.session.stop(self.session.accessibility, signal.SIGKILL)
+        self.assertLess(self.answer_time(), 1.5)
+        self.assertIsNone(self.program.panel())
+        self.assertTrue(self.program.is_alive())
+
+
+class PoorServer(DesktopTest):
+    session_arguments = {"server": ["-extension", "X-Resource", "-extension", "MIT-SHM", "-extension", "RENDER",
+                                    "-extension", "COMPOSITE"]}
+
+    def test_an_x_server_without_its_newer_extensions_shows_the_panel(self):
+        self.start_program()
+        self.session.open_editor("mousepad")
+        self.program.open_panel()

@@ -1,0 +1,95 @@
+"""What the panel looks like on the screen."""
+from PIL import ImageChops
+
+from case import DesktopTest
+from screen import count_near, near, wait_until
+
+BEHIND = (200, 40, 120)
+TEAL = (106, 196, 220)
+BLUE = (10, 132, 255)
+
+
+class Look(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.start_program()
+
+    def assert_clean_and_dark(self, area):
+        x, y, width, height = area
+        self.assertGreaterEqual(min(x, y), 0)
+        self.assertLessEqual((x + width, y + height), (self.screen.width, self.screen.height))
+        right, bottom = x + width - 1, y + height - 1
+        for corner in ((x, y), (right, y), (x, bottom), (right, bottom)):
+            self.assertEqual(BEHIND, self.screen.pixel(*corner), corner)
+        # Just inside the curve, and in the middle of each edge: the panel itself.
+        inside = [(x + 12, y + 12), (right - 12, y + 12), (x + 12, bottom - 12), (right - 12, bottom - 12),
+                  (x + width // 2, y + 3), (x + width // 2, bottom - 3), (x + 3, y + height // 2)]
+        for point in inside:
+            self.assertFalse(near(self.screen.pixel(*point), BEHIND), point)
+        self.assertLess(self.mean_light(area), 110)
+
+    def mean_light(self, area):
+        histogram = self.screen.picture(area).convert("L").histogram()
+        return sum(value * count for value, count in enumerate(histogram)) / sum(histogram)
+
+    def open_beside_the_editor(self):
+        """The editor's window is moved away, so that all four corners lie over the root window."""
+        self.session.open_editor("mousepad")
+        self.screen.active_window().configure(x=500, y=300, width=300, height=200)
+        self.screen.display.sync()
+        return self.program.open_panel()
+
+    def test_the_panel_is_dark_with_clean_round_corners(self):
+        self.assert_clean_and_dark(self.open_beside_the_editor())
+
+    def test_the_panel_is_dark_with_clean_round_corners_under_a_compositor(self):
+        self.session.start_compositor()
+        self.assert_clean_and_dark(self.open_beside_the_editor())
+
+    def test_the_panel_is_dark_with_clean_round_corners_without_blur(self):
+        self.program.write_settings({**self.program.settings(), "isBlurStyle": False})
+        self.assert_clean_and_dark(self.open_beside_the_editor())
+
+    def test_held_modifiers_turn_the_matching_cells_teal_until_they_are_let_go(self):
+        self.session.open_editor("mousepad")
+        area = self.program.open_panel()
+        self.screen.move_pointer(0, 0)
+        quiet = self.program.wait_until_still() and self.screen.picture(area)
+        self.assertEqual(0, count_near(quiet, TEAL))
+        self.wait_out_the_double_press()
+
+        self.screen.press(self.screen.CTRL)
+        wait_until(lambda: self.teal(area), 5, "teal cell for Ctrl")
+        self.program.wait_until_still()
+        with_ctrl = self.teal(area)
+        self.screen.press(self.screen.SHIFT)
+        wait_until(lambda: self.teal(area) not in (0, with_ctrl), 5, "other teal cells for Ctrl and Shift")
+        self.program.wait_until_still()
+        self.assertLess(self.teal(area), with_ctrl)
+        self.screen.release(self.screen.CTRL, self.screen.SHIFT)
+        wait_until(lambda: not self.teal(area), 5, "end of teal")
+        self.program.wait_until_still()
+        self.assertEqual(quiet.tobytes(), self.screen.picture(area).tobytes())
+
+    def teal(self, area):
+        return count_near(self.screen.picture(area), TEAL)
+
+    def test_the_cell_under_the_pointer_and_no_other_is_underlaid_in_blue(self):
+        self.session.open_editor("mousepad")
+        area = self.program.open_panel()
+        self.assertEqual(0, count_near(self.screen.picture(area), BLUE))
+        x, y = self.program.hover("Select All")
+        wait_until(lambda: self.blue_box(area), 5, "blue cell")
+        self.program.wait_until_still()
+        left, top, right, bottom = self.blue_box(area)
+        self.assertTrue(left <= x - area[0] < right and top <= y - area[1] < bottom)
+        self.assertLessEqual(bottom - top, 34)
+        self.screen.move_pointer(0, 0)
+        wait_until(lambda: not self.blue_box(area), 5, "end of blue")
+
+    def blue_box(self, area):
+        """The smallest rectangle around all blue pixels of the panel; None when there is none."""
+        bands = self.screen.picture(area).split()
+        near_blue = [band.point(lambda value, wanted=wanted: 255 * (abs(value - wanted) <= 12))
+                     for band, wanted in zip(bands, BLUE)]
+        return ImageChops.multiply(ImageChops.multiply(*near_blue[:2]), near_blue[2]).getbbox()
