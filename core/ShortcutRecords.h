@@ -76,7 +76,7 @@ struct CurrentShortcutsModel {
     AXUIElementRef element;
 };
 
-/// One line for the log: ["Edit", {"Path": "Edit", "Title": "Copy", ...}, ...]; absent fields are left out.
+/// One line for the log: ["Edit", {"MenuItemCmdChar": "C", ..., "Title": "Copy"}, ...]; absent fields are left out.
 std::string describe(const std::vector<MenuEntry>& entries);
 
 }  // namespace orlamo

@@ -42,7 +42,7 @@ extern const std::span<const std::string_view> systemShortcutIDTable;
 /// missing, malformed, empty or switched off. Empty when there are no such preferences. Replaces systemKeyCombos.
 std::vector<SystemShortcutEntry> loadSystemShortcuts();
 
-/// One line for the log: ["Keyboard", {"Title": "Keyboard//...", "Modifier": "⌃", "key": "F3"}, ...]
+/// One line for the log: ["Keyboard", {"Modifier": "⌃", "Title": "Keyboard//...", "key": "F3"}, ...]
 std::string describe(const std::vector<SystemShortcutEntry>& entries);
 
 }  // namespace orlamo
