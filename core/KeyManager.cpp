@@ -22,15 +22,26 @@ constexpr std::size_t characterLength(char first) {
     return ones >= 2 && ones <= 4 ? static_cast<std::size_t>(ones) : 1;
 }
 
+std::string_view firstCharacter(std::string_view text) {
+    return text.substr(0, characterLength(text.front()));
+}
+
 std::size_t characterCount(std::string_view text) {
     std::size_t count = 0;
-    for (std::size_t i = 0; i < text.size(); i += characterLength(text[i])) ++count;
+    for (; !text.empty(); text.remove_prefix(firstCharacter(text).size())) ++count;
     return count;
 }
 
+bool containsCharacter(std::string_view text, std::string_view character) {
+    for (; !text.empty(); text.remove_prefix(firstCharacter(text).size())) {
+        if (firstCharacter(text) == character) return true;
+    }
+    return false;
+}
+
 bool containsEachCharacter(std::string_view text, std::string_view of) {
-    for (std::size_t i = 0; i < of.size(); i += characterLength(of[i])) {
-        if (text.find(of.substr(i, characterLength(of[i]))) == std::string_view::npos) return false;
+    for (; !of.empty(); of.remove_prefix(firstCharacter(of).size())) {
+        if (!containsCharacter(text, firstCharacter(of))) return false;
     }
     return true;
 }

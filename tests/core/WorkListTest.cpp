@@ -1,0 +1,80 @@
+#include "core/WorkList.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <utility>
+
+namespace orlamo {
+namespace {
+
+struct Numbered : AXUIElement {
+    explicit Numbered(std::size_t number) : number(number) {}
+    bool isSameElement(const AXUIElement& other) const override {
+        ++comparisons;
+        return static_cast<const Numbered&>(other).number == number;
+    }
+    std::size_t hash() const override { return number; }
+
+    std::size_t number;
+    inline static std::size_t comparisons = 0;
+};
+
+AXUIElementRef reference(std::size_t number) {
+    return std::make_shared<Numbered>(number);
+}
+std::size_t numberOf(const AXUIElementRef& element) {
+    return static_cast<const Numbered&>(*element).number;
+}
+
+// What the list has to do, said plainly.
+struct ScannedList {
+    bool empty() const { return numbers.empty(); }
+    void append(std::size_t number) { numbers.push_back(number); }
+    std::size_t take() {
+        const std::size_t front = numbers.front();
+        std::erase(numbers, front);
+        return front;
+    }
+    std::vector<std::size_t> numbers;
+};
+
+TEST(WorkList, TakesTheSameElementsAsAListThatIsScanned) {
+    for (unsigned seed = 1; seed <= 200; ++seed) {
+        std::mt19937 random(seed);
+        const std::size_t distinct = 1 + random() % 12;
+        WorkList queue;
+        WorkList pending;
+        ScannedList expectedQueue;
+        ScannedList expectedPending;
+        for (int step = 0; step < 400; ++step) {
+            const auto choice = random() % 100;
+            if (choice < 55) {
+                const std::size_t number = random() % distinct;
+                queue.append(reference(number));
+                expectedQueue.append(number);
+            } else if (choice < 90) {
+                if (expectedQueue.empty()) continue;
+                ASSERT_EQ(numberOf(queue.take()), expectedQueue.take()) << "seed " << seed;
+            } else {
+                std::swap(queue, pending);
+                std::swap(expectedQueue, expectedPending);
+            }
+            ASSERT_EQ(queue.empty(), expectedQueue.empty()) << "seed " << seed;
+            ASSERT_EQ(pending.empty(), expectedPending.empty()) << "seed " << seed;
+        }
+    }
+}
+
+TEST(WorkList, AVisitCostsNoScan) {
+    constexpr std::size_t elements = 100'000;
+    WorkList list;
+    Numbered::comparisons = 0;
+    for (std::size_t i = 0; i < 2 * elements; ++i) list.append(reference(i % elements));
+    for (std::size_t i = 0; i < elements; ++i) ASSERT_EQ(numberOf(list.take()), i);
+    EXPECT_TRUE(list.empty());
+    EXPECT_LT(Numbered::comparisons, 10 * elements);
+}
+
+}  // namespace
+}  // namespace orlamo
