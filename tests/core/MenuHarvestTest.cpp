@@ -20,9 +20,16 @@ constexpr int pid = 4711;
 struct MenuHarvest : testing::Test {
     MenuHarvest() {
         workspace.frontmost = RunningApplication{pid, "org.example.Editor", "Editor"};
-        menuItemTitles = {"left over"};
-        menuItemElements = {FakeAccessibility::reference(nullptr)};
         menuItemKeyCodes.clear();
+    }
+    static FakeElementPtr item(std::string_view title, std::string_view key) {
+        return FakeAccessibility::item(title, key);
+    }
+    static FakeElementPtr menu(std::string_view title, Items items) {
+        return FakeAccessibility::menu(title, std::move(items));
+    }
+    static FakeElementPtr submenu(std::string_view title, Items items) {
+        return FakeAccessibility::submenu(title, std::move(items));
     }
 
     // Headings as they are, records as "Path|Title|Modifier|Char|Glyph".
@@ -44,16 +51,9 @@ struct MenuHarvest : testing::Test {
     }
     // With a single menu, so that no application's name follows.
     std::vector<std::string> harvestedMenu(Items items) {
-        ax.setMenuBar(pid, {FakeAccessibility::menu("Edit", std::move(items))});
+        ax.setMenuBar(pid, {menu("Edit", std::move(items))});
         return harvested();
     }
-    static FakeElementPtr item(std::string_view title, std::string_view key) {
-        return FakeAccessibility::item(title, key);
-    }
-    static FakeElementPtr submenu(std::string_view title, Items items) {
-        return FakeAccessibility::submenu(title, std::move(items));
-    }
-
     FakeLog log;
     FakeClock clock;
     FakeWorkspace workspace;
@@ -61,9 +61,8 @@ struct MenuHarvest : testing::Test {
 };
 
 TEST_F(MenuHarvest, MenusAreReadFromLeftToRightAndTheApplicationsNameComesLast) {
-    ax.setMenuBar(pid,
-                  {FakeAccessibility::menu("Apple", {item("Lock Screen", "Q")}), FakeAccessibility::menu("Editor", {}),
-                   FakeAccessibility::menu("File", {item("Open…", "O"), item("Close", "W")})});
+    ax.setMenuBar(pid, {menu("Apple", {item("Lock Screen", "Q")}), menu("Editor", {}),
+                        menu("File", {item("Open…", "O"), item("Close", "W")})});
     EXPECT_THAT(harvested(), ElementsAre("\uF8FF", "\uF8FF|Lock Screen|⌘|Q|", "File", "File|Open…|⌘|O|",
                                          "File|Close|⌘|W|", "Editor"));
     EXPECT_THAT(log.lines, ElementsAre("Editor"));
@@ -135,19 +134,17 @@ TEST_F(MenuHarvest, ASubmenuStandsWhereItsItemIs) {
 TEST_F(MenuHarvest, ASubmenuAtTheEndKeepsItsTitleUnlessItsOwnMenuHasNone) {
     EXPECT_THAT(harvestedMenu({submenu("Find", {item("Next", "G")})}),
                 ElementsAre("Edit", "Edit/Find", "Edit/Find|Next|⌘|G|"));
-    EXPECT_THAT(harvestedMenu({FakeAccessibility::menu("Find", {item("Next", "G")})}),
-                ElementsAre("Edit", "Edit|Next|⌘|G|"));
+    EXPECT_THAT(harvestedMenu({menu("Find", {item("Next", "G")})}), ElementsAre("Edit", "Edit|Next|⌘|G|"));
 }
 
 TEST_F(MenuHarvest, ASubmenuTitleSeenBeforeGetsNoSecondHeading) {
-    ax.setMenuBar(pid,
-                  {FakeAccessibility::menu("A", {submenu("Zoom", {item("In", "I")})}), FakeAccessibility::menu("", {}),
-                   FakeAccessibility::menu("B", {submenu("Zoom", {item("Out", "O")})})});
+    ax.setMenuBar(pid, {menu("A", {submenu("Zoom", {item("In", "I")})}), menu("", {}),
+                        menu("B", {submenu("Zoom", {item("Out", "O")})})});
     EXPECT_THAT(harvested(), ElementsAre("A", "A/Zoom", "A/Zoom|In|⌘|I|", "B", "B/Zoom|Out|⌘|O|"));
 }
 
 TEST_F(MenuHarvest, AMenuWithoutATitleIsWalkedUnderEmptyText) {
-    const auto untitled = FakeAccessibility::menu("", {item("Copy", "C"), submenu("Find", {item("Next", "G")})});
+    const auto untitled = menu("", {item("Copy", "C"), submenu("Find", {item("Next", "G")})});
     untitled->attributes.clear();
     ax.setMenuBar(pid, {item("Bare", ""), untitled});
     EXPECT_THAT(harvested(), ElementsAre("Bare", "Bare|Bare|⌘||", "", "|Copy|⌘|C|", "/Find", "/Find|Next|⌘|G|"));
@@ -163,13 +160,14 @@ TEST_F(MenuHarvest, AnElementThatWaitsInTheQueueIsVisitedOnceButOneSetAsideOnceM
 TEST_F(MenuHarvest, WhatAMenuLeavesOverIsWalkedWithTheNextOne) {
     Items many;
     for (int i = 0; i < 1200; ++i) many.push_back(item("Item " + std::to_string(i), "I"));
-    ax.setMenuBar(pid, {FakeAccessibility::menu("Long", many), FakeAccessibility::menu("Next", many)});
+    ax.setMenuBar(pid, {menu("Long", {submenu("Sub", many)}), menu("Next", many)});
     const auto lines = harvested();
-    // Of 1000 visits two go to the bar's item and its menu; the second menu loses those 202 that came over as well.
-    ASSERT_EQ(lines.size(), 1U + 998 + 1 + 998 + 1);
-    EXPECT_EQ(lines[998], "Long|Item 997|⌘|I|");
+    // Each menu has 1000 visits; three go to the first one's containers, two to the second one's.
+    ASSERT_EQ(lines.size(), 2U + 997 + 1 + 998 + 1);
+    EXPECT_EQ(lines[998], "Long/Sub|Item 996|⌘|I|");
     EXPECT_EQ(lines[999], "Next");
-    EXPECT_EQ(lines[1000], "Next|Item 998|⌘|I|");
+    EXPECT_EQ(lines[1000], "Next/Sub|Item 997|⌘|I|");
+    EXPECT_EQ(lines[1000 + 203], "Next|Item 0|⌘|I|");
 }
 
 TEST_F(MenuHarvest, WhatCannotBeReadIsSkipped) {
@@ -195,9 +193,11 @@ TEST_F(MenuHarvest, WithoutAMenuBarThereIsNothingAndTheOldListsAreGone) {
     };
     menuItemKeyCodes = {{1, 2}};
     for (const auto& [name, fault] : cases) {
+        workspace.frontmost = RunningApplication{pid, std::nullopt, ""};
+        ax.trusted = true;
         menuItemTitles = {"left over"};
         menuItemElements = {FakeAccessibility::reference(nullptr)};
-        const auto bar = ax.setMenuBar(pid, {FakeAccessibility::menu("Edit", {item("Copy", "C")})});
+        const auto bar = ax.setMenuBar(pid, {menu("Edit", {item("Copy", "C")})});
         fault(*bar);
         EXPECT_THAT(harvested(), IsEmpty()) << name;
         EXPECT_THAT(menuItemTitles, IsEmpty()) << name;

@@ -1,11 +1,13 @@
 #include "core/SystemShortcuts.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <fstream>
 #include <functional>
 #include <limits>
+#include <utility>
 
 #include "tests/doubles/FakeBundle.h"
 #include "tests/doubles/FakeLog.h"
@@ -29,12 +31,10 @@ PropertyList withParameters(PropertyList parameters) {
 
 struct SystemShortcuts : testing::Test {
     SystemShortcuts() {
-        const std::string path = testing::TempDir() + "orlamo_default_hot_keys.plist";
-        std::ofstream(path) << "the shipped list";
-        bundle.resources["com.apple.symbolichotkeys.plist"] = path;
-        systemKeyCombos = {{1, 1}};
+        std::ofstream(file) << "the shipped list";
+        bundle.resources["com.apple.symbolichotkeys.plist"] = file;
     }
-    ~SystemShortcuts() override { std::remove(bundle.resources["com.apple.symbolichotkeys.plist"].c_str()); }
+    ~SystemShortcuts() override { std::remove(file.c_str()); }
 
     void setDefaults(Dictionary entries) {
         parser.result.value = Dictionary{{"AppleSymbolicHotKeys", std::move(entries)}};
@@ -57,6 +57,8 @@ struct SystemShortcuts : testing::Test {
         return lines;
     }
 
+    // Of this process alone, as tests run side by side.
+    const std::string file = testing::TempDir() + "orlamo_hot_keys_" + std::to_string(getpid());
     FakeLog log;
     FakeBundle bundle;
     FakePropertyListParser parser;
@@ -68,24 +70,21 @@ TEST_F(SystemShortcuts, AllRowsStandUnderTheirHeadings) {
     for (int id = 1; id < 200; ++id) all[std::to_string(id)] = hotKey(true, 0, 0x100000);
     preferences.setHotKeys(all);
     std::vector<std::string> shape;  // headings and the number of records under each
-    int records = 0;
-    const auto endGroup = [&] {
-        if (records > 0) shape.push_back(std::to_string(records));
-        records = 0;
-    };
-    for (const std::string& line : loaded()) {
+    std::size_t records = 0;
+    auto lines = loaded();
+    lines.emplace_back();
+    for (const std::string& line : lines) {
         if (line.ends_with("|⌘|A|0|1048576")) {
             ++records;
             continue;
         }
-        endGroup();
+        if (records > 0) shape.push_back(std::to_string(std::exchange(records, 0)));
         shape.push_back(line);
     }
-    endGroup();
     EXPECT_THAT(shape, ElementsAre("Launchpad & Dock", "2", "Mission Contrl", "6", "Mission Contrl/Mission Contrl", "6",
                                    "Keyboard", "11", "Input Sources", "2", "Screen Shots", "4", "Spotlight", "2",
                                    "Accessibility", "Accessibility/Zoom", "5", "Accessibility/Contrast", "5",
-                                   "App Shortcuts", "App Shortcuts/All Applications", "1"));
+                                   "App Shortcuts", "App Shortcuts/All Applications", "1", ""));
     EXPECT_EQ(log.lines.size(), 44U);
     EXPECT_EQ(log.lines.front(), "有直:52");
     EXPECT_THAT(parser.parsed, IsEmpty());
@@ -117,43 +116,40 @@ TEST_F(SystemShortcuts, OnlyAnUnusableEntryIsReplacedByTheDefault) {
     setDefaults({{"52", hotKey(true, 2)}});
     const PropertyList value = *hotKey(true, 0).at("value");
     const std::int64_t one = 1;
-    const struct {
-        const char* what;
-        PropertyList entry;
-        const char* shown;  // modifier, key, code, mask; null: dropped
-    } cases[] = {
-        {"usable", hotKey(true, 0), "||A|0|0"},
-        {"switched off", hotKey(false, 0), "||D|2|0"},
-        {"not a dictionary", Array{}, "||D|2|0"},
-        {"no enabled", Dictionary{{"value", value}}, "||D|2|0"},
-        {"enabled is a number", Dictionary{{"enabled", one}, {"value", value}}, "||D|2|0"},
-        {"no value", Dictionary{{"enabled", true}}, "||D|2|0"},
-        {"value is an array", Dictionary{{"enabled", true}, {"value", Array{}}}, "||D|2|0"},
-        {"empty value", Dictionary{{"enabled", true}, {"value", Dictionary{}}}, "||D|2|0"},
-        {"no parameters", Dictionary{{"enabled", true}, {"value", Dictionary{{"type", one}}}}, nullptr},
-        {"parameters are a text", withParameters(std::string("0")), nullptr},
-        {"no elements", withParameters(Array{}), nullptr},
-        {"one element", withParameters(Array{one}), nullptr},
-        {"two elements", withParameters(Array{one, one}), "||S|1|0"},
-        {"boolean key code", withParameters(Array{one, true, one}), nullptr},
-        {"key code with a fraction", withParameters(Array{one, 1.0, one}), nullptr},
-        {"mask is a text", withParameters(Array{one, one, std::string("131072")}), "||S|1|0"},
-        {"every bit", hotKey(true, 1, -1), "|⌃⌥⇧⌘|S|1|-1"},
-        {"code without a key", hotKey(true, 65535), nullptr},
-        {"code -1", hotKey(true, -1), "||nil|-1|0"},
-        {"least code", hotKey(true, std::numeric_limits<std::int64_t>::min()), nullptr},
-        {"greatest code", hotKey(true, std::numeric_limits<std::int64_t>::max()), nullptr},
+    const char* const replaced = "||D|2|0";
+    const char* const dropped = nullptr;
+    using Limits = std::numeric_limits<std::int64_t>;
+    // The entry and what is shown of it: modifier, key, code, mask.
+    const std::pair<PropertyList, const char*> cases[] = {
+        {hotKey(true, 0), "||A|0|0"},
+        {hotKey(false, 0), replaced},
+        {Array{}, replaced},
+        {Dictionary{{"value", value}}, replaced},
+        {Dictionary{{"enabled", one}, {"value", value}}, replaced},
+        {Dictionary{{"enabled", true}}, replaced},
+        {Dictionary{{"enabled", true}, {"value", Array{}}}, replaced},
+        {Dictionary{{"enabled", true}, {"value", Dictionary{}}}, replaced},
+        {Dictionary{{"enabled", true}, {"value", Dictionary{{"type", one}}}}, dropped},
+        {withParameters(std::string("0")), dropped},
+        {withParameters(Array{}), dropped},
+        {withParameters(Array{one}), dropped},
+        {withParameters(Array{one, one}), "||S|1|0"},
+        {withParameters(Array{one, true, one}), dropped},
+        {withParameters(Array{one, 1.0, one}), dropped},
+        {withParameters(Array{one, one, std::string("131072")}), "||S|1|0"},
+        {hotKey(true, 1, -1), "|⌃⌥⇧⌘|S|1|-1"},
+        {hotKey(true, 65535), dropped},
+        {hotKey(true, -1), "||nil|-1|0"},
+        {hotKey(true, Limits::min()), dropped},
+        {hotKey(true, Limits::max()), dropped},
     };
-    for (const auto& [what, entry, shown] : cases) {
+    for (const auto& [entry, shown] : cases) {
         preferences.setHotKeys(Dictionary{{"52", entry}});
-        const auto lines = loaded();
-        if (shown == nullptr) {
-            EXPECT_THAT(lines, IsEmpty()) << what;
-        } else {
-            EXPECT_THAT(lines, ElementsAre("Launchpad & Dock",
-                                           std::string("Launchpad & Dock//Turn Dock Hiding On/Off") + shown))
-                << what;
+        std::vector<std::string> expected;
+        if (shown != dropped) {
+            expected = {"Launchpad & Dock", std::string("Launchpad & Dock//Turn Dock Hiding On/Off") + shown};
         }
+        EXPECT_EQ(loaded(), expected) << entry.description();
     }
 }
 
@@ -169,34 +165,33 @@ TEST_F(SystemShortcuts, TheDefaultListIsReadForEveryRowThatNeedsIt) {
 }
 
 TEST_F(SystemShortcuts, ADefaultListThatCannotBeUsedIsSaidInTheLog) {
-    auto& path = bundle.resources["com.apple.symbolichotkeys.plist"];
-    const std::string good = path;
+    const std::string key = "com.apple.symbolichotkeys.plist";
+    const std::string folder = testing::TempDir();
     const std::pair<std::string, std::function<void()>> cases[] = {
-        {"Plist file not found in the bundle", [this] { bundle.resources.clear(); }},
-        {"Error: " + good + ".gone: No such file or directory", [&] { path = good + ".gone"; }},
-        {"Error: " + testing::TempDir() + ": Is a directory", [&] { path = testing::TempDir(); }},
+        {"Plist file not found in the bundle", [&] { bundle.resources.clear(); }},
+        {"Error: " + file + ".gone: No such file or directory", [&] { bundle.resources[key] = file + ".gone"; }},
+        {"Error: " + folder + ": Is a directory", [&] { bundle.resources[key] = folder; }},
         {"Error: it is torn",
-         [this] {
+         [&] {
              parser.result = {{}, "it is torn"};
          }},
-        {"Invalid plist format", [this] { parser.result.value = Array{}; }},
-        {"Successfully loaded plist file:", [this] { parser.result.value = Dictionary{}; }},
+        {"Invalid plist format", [&] { parser.result.value = Array{}; }},
+        {"Successfully loaded plist file:", [&] { parser.result.value = Dictionary{}; }},
         {"Successfully loaded plist file:",
-         [this] {
+         [&] {
              parser.result.value = Dictionary{{"AppleSymbolicHotKeys", true}};
          }},
     };
     preferences.setHotKeys(Dictionary{});
-    for (auto fault = std::rbegin(cases); fault != std::rend(cases); ++fault) {
-        path = good;
+    for (const auto& [line, fault] : cases) {
+        bundle.resources[key] = file;
         parser.result = {};
-        fault->second();
+        fault();
         log.lines.clear();
         EXPECT_THAT(loaded(), IsEmpty());
-        EXPECT_EQ(log.lines.size(), 2 * 44U) << fault->first;
-        EXPECT_EQ(log.count(fault->first), 44) << log.lines[1];
+        EXPECT_EQ(log.lines.size(), 2 * 44U) << line;
+        EXPECT_EQ(log.count(line), 44) << log.lines[1];
     }
-    bundle.resources["com.apple.symbolichotkeys.plist"] = good;
 }
 
 TEST_F(SystemShortcuts, TheLogFormNamesEveryField) {
