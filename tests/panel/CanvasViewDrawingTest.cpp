@@ -1,0 +1,201 @@
+#include "tests/panel/PanelFixture.h"
+
+namespace orlamo {
+namespace {
+
+using testing::ElementsAre;
+
+class CanvasViewDrawing : public PanelFixture {
+protected:
+    Color colorOf(const std::string& text) const {
+        const auto* const found = context.find(text);
+        return found != nullptr ? found->color : Color::clearColor();
+    }
+    std::vector<Rect> hoverFills() const {
+        std::vector<Rect> rects;
+        for (const auto& fill : context.fills) {
+            if (fill.color == Color::systemBlueColor()) rects.push_back(fill.path.elements.at(0).rect);
+        }
+        return rects;
+    }
+};
+
+TEST_F(CanvasViewDrawing, ACellShowsItsModifiersUpTo50ItsKeyFrom60AndItsTitleFrom85) {
+    addItem("Save", "⇧⌘", "S");
+    open();
+    const Rect cell = view->currentShortM.at(0).rect;
+    EXPECT_EQ(context.find("⇧⌘")->origin, (Point{cell.x - 16 + 50, cell.y + 2}));
+    EXPECT_EQ(context.find("S")->origin, (Point{cell.x + 60, cell.y + 2}));
+    EXPECT_EQ(context.find("Save")->origin, (Point{cell.x + 85, cell.y + 2}));
+    EXPECT_EQ(context.find("Save")->pointSize, 14);
+}
+
+TEST_F(CanvasViewDrawing, TheKeyboardSaysWhatItPrintsOnItsKeys) {
+    desktop.keyboard.modifierLegends["⌘"] = "Ctrl";
+    desktop.keyboard.keyLegends["F13"] = "PrtSc";
+    addItem("Shoot", "⌘", "F13");
+    open();
+    const double x = view->currentShortM.at(0).rect.x;
+    EXPECT_EQ(context.find("Ctrl")->origin.x, x - static_cast<int>(4 * 0.6 * 14) + 50);
+    EXPECT_EQ(context.find("PrtSc")->origin.x, x + 60);
+    EXPECT_EQ(view->currentShortM.at(0).keyString, "F13") << "records keep the symbols";
+}
+
+TEST_F(CanvasViewDrawing, ExactlyTheCellsWhoseModifiersAreHeldTurnTeal) {
+    addItem("Plain", "⌘", "P");
+    addItem("Shifted", "⇧⌘", "P");
+    addItem("Function", "fn", "P");
+    addSystem("Keyboard//Dock", "⇧⌘", "D", 2, 0x120000);
+    open();
+    EXPECT_EQ(colorOf("Function"), Color::systemTealColor()) << "nothing is held";
+    desktop.keyboard.flags = EventFlags::shift | EventFlags::command;
+    draw();
+    EXPECT_EQ(colorOf("Shifted"), Color::systemTealColor());
+    EXPECT_EQ(colorOf("Dock"), Color::systemTealColor());
+    EXPECT_EQ(colorOf("Plain"), Color::white(1));
+    EXPECT_EQ(colorOf("Function"), Color::white(1));
+}
+
+TEST_F(CanvasViewDrawing, TheTitleBarsStandAboveTheirAreas) {
+    addItem("Save");
+    addSystem("Keyboard//Dock", "⌃", "D", 2, 0x40000);
+    desktop.bundle.strings["System"] = "System!";
+    open();
+    // One row of 30: w1 = 33 + 80, s1 = 33 + 90; the application's edge is 113, the bars reach 10 further.
+    const Rect cell = view->currentShortM.at(0).rect;
+    const double top = cell.y + 30;
+    const auto corner = [&](std::size_t bar) { return context.fills.at(bar).path.elements; };
+    EXPECT_EQ(corner(0)[1].point, (Point{5, top + 15 + 5})) << "lower left, half a row above the cells";
+    EXPECT_EQ(corner(0)[3].point, (Point{113 + 10 - 5, top + 60 - 5})) << "upper right, two rows above";
+    EXPECT_EQ(corner(1)[1].point.x, 113 + 70 + 5);
+    EXPECT_EQ(corner(1)[3].point.x, 113 + 70 + 123 + 10 - 5);
+    EXPECT_EQ(context.fills[0].color, Color::white(0.1));
+    EXPECT_DOUBLE_EQ(context.find("Editor")->origin.x, 113 / 2 - 6 * 0.6 * 19 / 2);
+    EXPECT_DOUBLE_EQ(context.find("Editor")->origin.y, top + 37.5 - 1.2 * 19 / 2);
+    EXPECT_DOUBLE_EQ(context.find("System!")->origin.x, 183 + 133 / 2 - 7 * 0.6 * 19 / 2);
+    EXPECT_EQ(context.find("System!")->pointSize, 17);
+}
+
+TEST_F(CanvasViewDrawing, ABarIsFiveArcsClockwiseFromItsLowerRightCorner) {
+    addItem("Save");
+    open();
+    using Angles = std::pair<double, double>;
+    std::vector<Angles> angles;
+    for (const auto& element : context.fills.at(0).path.elements) {
+        if (element.verb != Path::Verb::arc) continue;
+        EXPECT_TRUE(element.clockwise);
+        EXPECT_EQ(element.radius, 5);
+        angles.emplace_back(element.startAngle, element.endAngle);
+    }
+    EXPECT_THAT(angles,
+                ElementsAre(Angles{-50, -90}, Angles{-90, -180}, Angles{180, 90}, Angles{90, 0}, Angles{0, -50}));
+}
+
+TEST_F(CanvasViewDrawing, WithoutSystemEntriesTheSystemBarKeepsItsWidthTurnedPositive) {
+    addItem("Save");
+    open();
+    const auto& elements = context.fills.at(1).path.elements;
+    const double x1 = 113 + 70;
+    EXPECT_EQ(elements[1].point.x, x1 + 5);
+    EXPECT_EQ(elements[3].point.x, x1 + 60 - 5) << "|-70 + 10| wide";
+    EXPECT_NE(context.find("System"), nullptr);
+}
+
+TEST_F(CanvasViewDrawing, AMenuHeadingIsABarAndASubmenuHeadingATriangle) {
+    desktop.bundle.strings["Find"] = "Suchen";
+    addHeading("Edit");
+    addHeading("Edit/Find");
+    addItem("Next");
+    open();
+    const double y = view->currentShortM.at(0).rect.y;
+    EXPECT_EQ(context.find("Edit")->pointSize, 16);
+    EXPECT_EQ(context.find("Edit")->origin, (Point{20, y + 60 + 1}));
+    EXPECT_EQ(context.find("Suchen")->color, Color::white(0.5));
+    EXPECT_EQ(context.find("Suchen")->origin, (Point{27, y + 30}));
+    Path triangle;
+    triangle.moveTo({15, y + 40}).lineTo({25, y + 40}).lineTo({20, y + 31}).close();
+    EXPECT_THAT(context.fills, testing::Contains(RecordingGraphicsContext::Fill{triangle, Color::white(1)}));
+}
+
+TEST_F(CanvasViewDrawing, TheHoveredCellIsUnderlaidInBlueAndNamedOnceAPass) {
+    addItem("Save");
+    addItem("Save");
+    open();
+    const Rect second = view->currentShortM.at(1).rect;
+    view->isMouseInsideRect = true;
+    view->currentHighlightedRect = second;
+    desktop.log.lines.clear();
+    draw();
+    EXPECT_THAT(hoverFills(), ElementsAre(second));
+    EXPECT_EQ(desktop.log.count("Editor====当前文字:Save ----37 "), 1);
+    view->isMouseInsideRect = false;
+    draw();
+    EXPECT_TRUE(hoverFills().empty());
+}
+
+TEST_F(CanvasViewDrawing, AnEntryTitledSpaceLeavesItsRowEmptyAndTakesNoElement) {
+    addItem("Open");
+    appMenuItems.emplace_back(MenuItemRecord{"File", "space", "⌘", "X", ""});
+    addItem("Close");
+    open();
+    EXPECT_EQ(context.find("space"), nullptr);
+    ASSERT_EQ(view->currentShortM.size(), 2U);
+    EXPECT_EQ(view->currentShortM[1].rect.y, view->currentShortM[0].rect.y - 60);
+    EXPECT_TRUE(view->currentShortM[1].element->isSameElement(*FakeAccessibility::reference(elements[1])));
+}
+
+TEST_F(CanvasViewDrawing, AGlyphStandsInForAMissingKeyCharacter) {
+    addItem("Delete", "⌘", "", "23");
+    open();
+    EXPECT_NE(context.find("⌫"), nullptr);
+    EXPECT_EQ(view->currentShortM.at(0).keyString, "⌫");
+}
+
+TEST_F(CanvasViewDrawing, TheApplicationsEntriesEndWithTheFirstCellThatFindsNoKeyCode) {
+    addItem("One");
+    addItem("Two");
+    addItem("Three");
+    menuItemKeyCodes.resize(1);
+    addSystem("Keyboard//Dock", "⌃", "SPACE", 49, 0x40000);
+    open();
+    EXPECT_EQ(view->currentShortM.size(), 1U);
+    EXPECT_NE(context.find("Two"), nullptr) << "drawn, but without a record";
+    EXPECT_EQ(context.find("Three"), nullptr);
+    ASSERT_EQ(view->shortcutsM.size(), 1U);
+    EXPECT_EQ(view->shortcutsM[0].keyString, "⌴");
+    EXPECT_EQ(view->shortcutsM[0].keycode, 49);
+    EXPECT_EQ(view->shortcutsM[0].modifierFlags, 0x40000);
+}
+
+TEST_F(CanvasViewDrawing, TheDenseTierDrawsFlatHeadingsAndSystemCellsAt14) {
+    addHeading("File");
+    addItems(170);
+    addSystem("Keyboard//First", "⌃", "A", 0, 0x40000);
+    addSystem("Keyboard//Second", "⌃", "B", 11, 0x40000);
+    open();
+    const Rect first = view->currentShortM.at(0).rect;
+    EXPECT_EQ(context.find("File")->pointSize, 15);
+    EXPECT_EQ(context.find("File")->origin.y, first.y + 17);
+    EXPECT_EQ(context.find("Item 0")->origin.y, first.y) << "not raised";
+    EXPECT_EQ(context.find("Item 0")->pointSize, 15);
+    EXPECT_EQ(context.find("First")->pointSize, 14);
+    EXPECT_EQ(context.find("Second")->pointSize, 14);
+    EXPECT_EQ(context.find("System")->pointSize, 18);
+}
+
+TEST_F(CanvasViewDrawing, EachPassLeavesOneRecordPerCellAndAsksForNoOther) {
+    addItems(5);
+    open();
+    draw();
+    EXPECT_EQ(view->currentShortM.size(), 5U);
+    EXPECT_FALSE(view->needsDisplay());
+    NotificationCenter::defaultCenter().post("update");
+    EXPECT_TRUE(view->needsDisplay());
+    draw();
+    view->modifierFlagsDidChange({.type = Event::Type::flagsChanged, .modifierFlags = 0x100000});
+    EXPECT_TRUE(view->needsDisplay());
+    EXPECT_TRUE(desktop.log.contains("修饰键状态变化: 1048576"));
+}
+
+}  // namespace
+}  // namespace orlamo

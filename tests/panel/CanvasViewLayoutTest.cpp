@@ -1,0 +1,161 @@
+#include "panel/SystemTitle.h"
+#include "tests/panel/PanelFixture.h"
+
+namespace orlamo {
+namespace {
+
+using CanvasViewLayout = PanelFixture;
+
+struct TierCase {
+    std::int64_t total;
+    std::int64_t columns, rows, rowHeight, textSize, spacing, perColumn;
+    bool isDense;
+};
+
+class CanvasViewTier : public PanelFixture, public testing::WithParamInterface<TierCase> {};
+
+TEST_P(CanvasViewTier, FollowsFromTheNumberOfEntriesAndStaysWhenDrawnAgain) {
+    const TierCase& expected = GetParam();
+    addItems(expected.total);
+    open();
+    std::optional<Rect> before;
+    for (int pass = 0; pass < 2; ++pass) {
+        EXPECT_EQ(view->totalMenuColumn, expected.columns);
+        EXPECT_EQ(view->rowNumberEveryColume, expected.rows);
+        EXPECT_EQ(view->rowHeight, expected.rowHeight);
+        EXPECT_EQ(view->textSize, expected.textSize);
+        EXPECT_EQ(view->GlobalSpacing, expected.spacing);
+        EXPECT_EQ(view->totalEveryColume, expected.perColumn);
+        EXPECT_EQ(view->isXcode, expected.isDense);
+        if (before) {
+            EXPECT_EQ(view->tempRect, before);
+        }
+        before = view->tempRect;
+        draw();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Totals, CanvasViewTier,
+    testing::Values(TierCase{0, 1, 40, 16, 13, 20, 40, false}, TierCase{1, 1, 1, 30, 14, 70, 30, false},
+                    TierCase{16, 1, 16, 30, 14, 70, 30, false}, TierCase{17, 1, 17, 25, 14, 60, 40, false},
+                    TierCase{25, 1, 25, 23, 14, 100, 40, false}, TierCase{33, 1, 33, 25, 14, 80, 40, false},
+                    TierCase{36, 1, 36, 23, 14, 100, 40, false}, TierCase{37, 2, 19, 23, 14, 30, 36, false},
+                    TierCase{39, 2, 20, 25, 14, 70, 30, false}, TierCase{40, 2, 20, 22, 14, 60, 35, false},
+                    TierCase{41, 2, 21, 25, 14, 50, 40, false}, TierCase{79, 2, 40, 22, 14, 60, 40, false},
+                    TierCase{81, 3, 27, 25, 14, 30, 40, false}, TierCase{122, 4, 31, 16, 13, 20, 40, false},
+                    TierCase{159, 4, 40, 22, 14, 60, 40, false}, TierCase{160, 4, 40, 17, 15, 15, 40, true},
+                    TierCase{200, 4, 50, 17, 15, 15, 40, true}, TierCase{201, 4, 51, 17, 14, 15, 40, true}));
+
+TEST_F(CanvasViewLayout, APlainColumnIsAsWideAsItsWidestTitleAndTheWindowFitsAround) {
+    addItem("New");
+    addItem("Open Location");  // 13 characters of 8.4 points at 14: 109
+    open();
+    // 189 wide, sysCols 0 and one column: no gap; (2 + 2) rows of 30.
+    EXPECT_EQ(view->tempRect, (Rect{(1240 - 189) / 2, (800 - 120) / 2, 219, 210}));
+    EXPECT_EQ(window.frame().size(), (Size{249, 240}));
+    EXPECT_EQ(window.frame().x, (1440 - 249) / 2.0);
+    EXPECT_EQ(window.frame().y, (900 - 240) / 2.0);
+    EXPECT_EQ(view->frame(), (Rect{30, -340, 1240, 800}));
+    ASSERT_EQ(view->currentShortM.size(), 2U);
+    EXPECT_EQ(view->currentShortM[0].rect, (Rect{0, 800 - 340 - 30, 199, 30}));
+    EXPECT_EQ(view->currentShortM[1].rect, (Rect{0, 800 - 340 - 60, 199, 30}));
+}
+
+TEST_F(CanvasViewLayout, EveryColumnStartsBehindTheWidthsAndGapsBeforeIt) {
+    addItems(121);  // four columns of 31 rows, 13 points, gap 20
+    for (int i = 0; i < 70; ++i) addSystem("Keyboard//Name", "⌃", "A", 0, 0x40000);
+    open();
+    const auto& cells = view->currentShortM;
+    ASSERT_EQ(cells.size(), 121U);
+    double x = 0;
+    for (const std::size_t first : {0U, 31U, 62U, 93U}) {
+        EXPECT_EQ(cells[first].rect.x, x);
+        EXPECT_EQ(cells[first].rect.y, cells[0].rect.y) << "columns start at the same height";
+        x += cells[first].rect.width + 20;
+    }
+    ASSERT_EQ(view->shortcutsM.size(), 70U);
+    for (const std::size_t first : {0U, 31U, 62U}) {
+        EXPECT_EQ(view->shortcutsM[first].rect.x, x);
+        x += view->shortcutsM[first].rect.width + 20;
+    }
+    EXPECT_EQ(view->tempRect->width, x - 20 + 30) << "no gap behind the last column";
+}
+
+TEST_F(CanvasViewLayout, HeadingsAndTitlelessEntriesAreMeasuredAsAPlaceholder) {
+    addHeading("A heading that is much wider than any of the items below it");
+    addItem("Cut");
+    open();
+    EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(4 * 0.6 * 14) + 80 + 10);
+}
+
+TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOver147) {
+    // Ten-point characters are 6 points wide: 25 make 150, 26 are too wide, and 25 are the first over 147.
+    const std::string fits(25, 'x');
+    const std::string tooLong(66, 'x');
+    addItem(fits);
+    addItem(tooLong);
+    open();
+    EXPECT_EQ(view->currentShortM.at(1).title, std::string(25, 'x') + "...");
+    EXPECT_EQ(view->currentShortM.at(1).rect.width, static_cast<int>(28 * 0.6 * 14) + 80 + 10);
+    // Drawing tests at 13 points, where the shorter one is too wide too; its prefix ends one character early.
+    EXPECT_EQ(view->currentShortM.at(0).title, std::string(24, 'x') + "...");
+}
+
+TEST_F(CanvasViewLayout, WithoutTheSessionMenuTheFirstFiveEntriesAreTakenOut) {
+    desktop.defaults.values["isContainsAppleMenu"] = false;
+    addHeading("Session");
+    addItems(6);
+    open();
+    EXPECT_EQ(view->itemsToRemove.size(), 5U);
+    EXPECT_EQ(std::get<std::string>(view->itemsToRemove.front()), "Session");
+    ASSERT_EQ(appMenuItems.size(), 3U);
+    EXPECT_EQ(*std::get<MenuItemRecord>(appMenuItems.front()).title, "Item 4");
+}
+
+TEST_F(CanvasViewLayout, TheNameSurvivesATrimOfAShortList) {
+    desktop.defaults.values["isContainsAppleMenu"] = false;
+    addItems(2);
+    open("Tiny");
+    ASSERT_EQ(appMenuItems.size(), 1U);
+    EXPECT_EQ(view->currentAppName, "Tiny");
+    EXPECT_NE(context.find("Tiny"), nullptr);
+}
+
+TEST_F(CanvasViewLayout, AListWithNothingButANameStillHasRoomForTheSystemArea) {
+    for (int i = 0; i < 41; ++i) addSystem("Keyboard//Name", "⌃", "A", 0, 0x40000);
+    open("Reader");
+    ASSERT_EQ(view->shortcutsM.size(), 41U);
+    const double nameWidth = static_cast<int>(6 * 0.6 * 18) + 80;
+    EXPECT_EQ(view->shortcutsM[0].rect.x, nameWidth + 20);
+    EXPECT_GT(view->shortcutsM[40].rect.x, view->shortcutsM[0].rect.x) << "40 rows make a column";
+}
+
+TEST_F(CanvasViewLayout, TheLogTellsOnePassInOrder) {
+    addItems(3);
+    open();
+    const auto first = std::ranges::find(desktop.log.lines, "****************  开始绘制  ********************");
+    const std::vector<std::string> pass(first, desktop.log.lines.end());
+    EXPECT_THAT(pass, testing::ElementsAre("****************  开始绘制  ********************",
+                                           "---------- 当前程序名称: Editor ----------------- ",
+                                           "--------- 当前程序菜单栏的列数: 0 -----------",
+                                           "--------- 当前程序菜单栏的total总数: 3 ----------------",
+                                           "----------- 绘制的文字的字体大小: 14 ----------------",
+                                           "-------当前程序每列的宽度----130-------0-------0------0",
+                                           "-----系统每列宽度--0------- 0----- 0", "总宽度：130", "总高度：150",
+                                           "当前程序的标题的文字大小: 17", "系统标题的文字大小: 17"));
+}
+
+TEST(SystemTitle, IsTakenApartAtItsSeparators) {
+    struct Case {
+        const char *title, *path, *label;
+    };
+    for (const Case& expected : {Case{"Keyboard//Zoom", "Keyboard", "Zoom"}, Case{"A//B//C", "A/B", "C"},
+                                 Case{"A//B//C//D", "A/B", "C"}, Case{"Alone", "Alone", "Alone"}}) {
+        EXPECT_EQ(splitSystemTitle(expected.title).path, expected.path);
+        EXPECT_EQ(splitSystemTitle(expected.title).label, expected.label);
+    }
+}
+
+}  // namespace
+}  // namespace orlamo

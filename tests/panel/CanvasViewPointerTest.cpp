@@ -1,0 +1,164 @@
+#include "tests/panel/PanelFixture.h"
+
+namespace orlamo {
+namespace {
+
+class CanvasViewPointer : public PanelFixture {
+protected:
+    CanvasViewPointer() { controller.setWindow(&window); }
+
+    void moveTo(const Rect& cell) { window.pointerMoved(centreOf(cell)); }
+    void click(const Rect& cell) { window.pointerPressed(centreOf(cell)); }
+    bool isClosing() { return desktop.runLoop.pending() > 0; }
+
+    CanvasWindowController controller;
+};
+
+TEST_F(CanvasViewPointer, HighlightsOneCellAtATimeAndNoneWithoutModifiers) {
+    addItem("Save");
+    addSystem("Keyboard//Dock", "⌃", "D", 2, 0x40000);
+    addSystem("Keyboard//Bare", "", "F3", 99, 0);
+    open();
+    moveTo(view->currentShortM.at(0).rect);
+    EXPECT_EQ(view->currentHighlightedRect, view->currentShortM[0].rect);
+    EXPECT_FALSE(view->systemHighlightedRect);
+    EXPECT_TRUE(view->isMouseInsideRect);
+    EXPECT_TRUE(desktop.log.contains("文字: Save---- 尺寸: " + describe(view->currentShortM[0].rect)));
+
+    moveTo(view->shortcutsM.at(0).rect);
+    EXPECT_FALSE(view->currentHighlightedRect);
+    EXPECT_EQ(view->systemHighlightedRect, view->shortcutsM[0].rect);
+
+    moveTo(view->shortcutsM.at(1).rect);
+    EXPECT_FALSE(view->systemHighlightedRect);
+    EXPECT_FALSE(view->isMouseInsideRect);
+}
+
+TEST_F(CanvasViewPointer, SystemCellsWorkWithoutAnyApplicationCell) {
+    addSystem("Keyboard//Dock", "⌃", "D", 2, 0x40000);
+    open("Reader");
+    moveTo(view->shortcutsM.at(0).rect);
+    EXPECT_EQ(view->systemHighlightedRect, view->shortcutsM[0].rect);
+    window.pointerMoved({1, 1});
+    EXPECT_FALSE(view->isMouseInsideRect);
+}
+
+TEST_F(CanvasViewPointer, EveryMoveAsksForAPassAndLeavingEndsTheHighlight) {
+    addItem("Save");
+    open();
+    draw();
+    moveTo(view->currentShortM.at(0).rect);
+    EXPECT_TRUE(view->needsDisplay());
+    draw();
+    window.pointerLeft();
+    EXPECT_FALSE(view->isMouseInsideRect);
+    EXPECT_TRUE(view->needsDisplay());
+}
+
+TEST_F(CanvasViewPointer, ACellBeyondTheBoundsIsHitWhereItIsDrawn) {
+    addItems(400);  // 100 rows of 17 points in a view of 800
+    open();
+    const Rect last = view->currentShortM.back().rect;
+    ASSERT_LT(last.y, 0);
+    moveTo(last);
+    EXPECT_EQ(view->currentHighlightedRect, last);
+    click(last);
+    EXPECT_EQ(desktop.accessibility.presses.size(), 1U);
+}
+
+TEST_F(CanvasViewPointer, AClickPressesTheFirstItemOfThatTitleAndClosesThePanel) {
+    addItem("Other");
+    addItem("Twice");
+    addItem("Twice");
+    isShortcutWindowShown = true;
+    open();
+    click(view->currentShortM.at(2).rect);
+    ASSERT_EQ(desktop.accessibility.presses.size(), 1U);
+    EXPECT_EQ(desktop.accessibility.presses[0], elements[1]);
+    EXPECT_TRUE(desktop.log.contains("点击了: Twice"));
+    EXPECT_TRUE(desktop.log.contains("成功执行点击操作"));
+    EXPECT_TRUE(isShortcutWindowShown);
+    desktop.runLoop.advance(0.01);
+    EXPECT_FALSE(isShortcutWindowShown);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(CanvasViewPointer, ARefusedPressIsLoggedWithItsCodeAndClosesThePanel) {
+    addItem("Save");
+    open();
+    elements[0]->pressResult = AXError::cannotComplete;
+    click(view->currentShortM.at(0).rect);
+    EXPECT_TRUE(desktop.log.contains("点击操作失败，错误码：-25204"));
+    EXPECT_TRUE(isClosing());
+}
+
+TEST_F(CanvasViewPointer, AnUnknownTitleOrAnEmptyHarvestClosesThePanelWithoutAPress) {
+    addItem("Save");
+    open();
+    for (const bool isEmpty : {false, true}) {
+        menuItemTitles = isEmpty ? std::vector<std::string>{} : std::vector<std::string>{"Else", "Where"};
+        desktop.log.lines.clear();
+        click(view->currentShortM.at(0).rect);
+        EXPECT_TRUE(desktop.accessibility.presses.empty());
+        EXPECT_TRUE(isClosing());
+        // One title more than elements.
+        EXPECT_EQ(desktop.log.count("无法找到指定的键值"), isEmpty ? 0 : 1);
+        desktop.runLoop.advance(0.001);
+    }
+}
+
+TEST_F(CanvasViewPointer, ASystemCellReplaysItsCombinationAsDownAndUp) {
+    addItem("Save");
+    addSystem("Mission Contrl//Move", "⌃", "→", 124, 0x40000);
+    open();
+    click(view->shortcutsM.at(0).rect);
+    ASSERT_EQ(desktop.poster.posted.size(), 2U);
+    for (const bool isDown : {true, false}) {
+        const auto& posted = desktop.poster.posted[isDown ? 0 : 1];
+        EXPECT_EQ(static_cast<int>(posted.tap), 1);
+        EXPECT_EQ(posted.event.keyCode, 124);
+        EXPECT_EQ(posted.event.flags, 0x40000U);
+        EXPECT_EQ(posted.event.keyDown, isDown);
+    }
+    EXPECT_TRUE(desktop.log.contains("修饰键: ⌃   按键符号: →"));
+    EXPECT_TRUE(isClosing());
+}
+
+TEST_F(CanvasViewPointer, AKeyThatCannotBePostedClosesThePanelAndPostsNothing) {
+    addSystem("Keyboard//No key", "⌃", "nil", -1, 0x40000);
+    addSystem("Keyboard//No mask", "", "A", 0, -5);
+    open();
+    for (const std::size_t cell : {0U, 1U}) {
+        click(view->shortcutsM.at(cell).rect);
+        EXPECT_TRUE(isClosing());
+        desktop.runLoop.advance(0.001);
+    }
+    EXPECT_TRUE(desktop.poster.posted.empty());
+    EXPECT_TRUE(desktop.log.contains("no key to post for No key"));
+}
+
+TEST_F(CanvasViewPointer, AClickBetweenTheCellsDoesNothing) {
+    addItem("Save");
+    open();
+    const Rect cell = view->currentShortM.at(0).rect;
+    for (const Point outside : {Point{cell.maxX(), cell.y}, Point{cell.x, cell.maxY()}}) {
+        window.pointerPressed({view->frame().x + outside.x, view->frame().y + outside.y});
+    }
+    EXPECT_FALSE(isClosing());
+    window.pointerPressed({view->frame().x + cell.x, view->frame().y + cell.y});
+    EXPECT_TRUE(isClosing()) << "minimum edges belong to the cell";
+}
+
+TEST_F(CanvasViewPointer, AViewThatIsGoneBeforeItsPanelClosesIsNoTrouble) {
+    addItem("Save");
+    open();
+    click(view->currentShortM.at(0).rect);
+    window.setContentView(nullptr);
+    isShortcutWindowShown = true;
+    desktop.runLoop.advance(1);
+    EXPECT_TRUE(isShortcutWindowShown) << "a later showing is not closed by an older click";
+    isShortcutWindowShown = false;
+}
+
+}  // namespace
+}  // namespace orlamo

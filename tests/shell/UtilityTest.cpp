@@ -1,0 +1,173 @@
+#include "shell/Utility.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "panel/CanvasWindowController.h"
+#include "shell/AppDelegate.h"
+#include "shell/settings/SettingsKeys.h"
+#include "tests/doubles/FakeDesktop.h"
+
+namespace orlamo {
+namespace {
+
+constexpr std::uint64_t none = EventFlags::noneHeld;
+constexpr std::uint64_t command = EventFlags::command;
+constexpr std::uint64_t shift = EventFlags::shift;
+constexpr std::uint64_t control = EventFlags::control;
+constexpr std::uint64_t option = EventFlags::option;
+constexpr std::uint64_t capsLock = 0x10000;
+
+class Trigger : public testing::Test {
+protected:
+    Trigger() {
+        isShortcutWindowShown = false;
+        // The latches live for the process: what an earlier test released must lie long ago.
+        static double start = 1'700'000'000;
+        desktop.clock.now = start += 1000;
+        desktop.openEditor({FakeAccessibility::item("Save", "S")});
+        utility.startMonitoring(delegate.canvasWindowController);
+        choose("Command");
+    }
+    ~Trigger() override { delegate.canvasWindowController.hideShortcutWindow(); }
+
+    void choose(const std::string& name) { desktop.defaults.values["doubleModifierKey"] = name; }
+    void flags(std::uint64_t held) {
+        desktop.monitors.deliverGlobal({.type = Event::Type::flagsChanged, .modifierFlags = held});
+    }
+    void tap(std::uint64_t modifier) {
+        flags(modifier);
+        flags(none);
+    }
+    void wait(double milliseconds) { desktop.clock.now += milliseconds / 1000; }
+
+    FakeDesktop desktop;
+    AppDelegate delegate;
+    Utility utility{delegate};
+};
+
+TEST_F(Trigger, TwoReleasesLessThanHalfASecondApartOpenThePanel) {
+    tap(command);
+    EXPECT_FALSE(isShortcutWindowShown) << "the first counted release never does";
+    wait(500.5);
+    tap(command);
+    EXPECT_FALSE(isShortcutWindowShown);
+    wait(499);
+    tap(command);
+    EXPECT_TRUE(isShortcutWindowShown) << "the late release became the new reference";
+    EXPECT_TRUE(desktop.log.contains("双击command...."));
+    EXPECT_EQ(desktop.windows.visibleWindows(), 1);
+    tap(command);
+    EXPECT_FALSE(isShortcutWindowShown) << "every further release toggles again";
+    EXPECT_EQ(desktop.windows.visibleWindows(), 0);
+}
+
+TEST_F(Trigger, EachOfTheThreeModifiersCanBeChosenAndTheOthersThenDoNothing) {
+    struct Case {
+        const char* name;
+        std::uint64_t modifier;
+        const char* message;
+    };
+    const std::vector<Case> cases{{"Command", command, "双击command...."},
+                                  {"Shift", shift, "双击Shift..."},
+                                  {"Control", control, "双击control...."}};
+    for (const Case& chosen : cases) {
+        choose(chosen.name);
+        for (const Case& pressed : cases) {
+            wait(2000);
+            tap(pressed.modifier);
+            tap(pressed.modifier);
+            EXPECT_EQ(isShortcutWindowShown, pressed.modifier == chosen.modifier) << chosen.name << pressed.name;
+            if (isShortcutWindowShown) {
+                EXPECT_TRUE(desktop.log.contains(chosen.message));
+                delegate.canvasWindowController.hideShortcutWindow();
+            }
+        }
+    }
+}
+
+TEST_F(Trigger, AnyOtherNameSwitchesItOff) {
+    for (const char* const name : {"Option", "command", ""}) {
+        choose(name);
+        for (const std::uint64_t modifier : {command, shift, control, option}) {
+            tap(modifier);
+            tap(modifier);
+        }
+    }
+    desktop.defaults.values.clear();
+    tap(command);
+    tap(command);
+    EXPECT_FALSE(isShortcutWindowShown);
+}
+
+TEST_F(Trigger, AnotherModifierVoidsOnlyTheEventsThatCarryIt) {
+    tap(command);
+    flags(command);
+    flags(command | shift);
+    flags(command);
+    flags(none);
+    EXPECT_TRUE(isShortcutWindowShown);
+}
+
+TEST_F(Trigger, AModifierThatNeverWentDownAloneDoesNotCount) {
+    tap(command);
+    flags(shift);
+    flags(shift | command);
+    flags(shift);
+    flags(none);
+    EXPECT_FALSE(isShortcutWindowShown);
+}
+
+TEST_F(Trigger, LocksAndTheFunctionKeyDoNotVoidThePress) {
+    for (int i = 0; i < 2; ++i) {
+        flags(command | capsLock | 0x800000);
+        flags(capsLock);
+    }
+    EXPECT_TRUE(isShortcutWindowShown);
+}
+
+TEST_F(Trigger, WhileTheProgramIsActiveAPressAlsoRecoloursThePanel) {
+    tap(command);
+    tap(command);
+    ASSERT_TRUE(isShortcutWindowShown);
+    desktop.log.lines.clear();
+    const Event event{.type = Event::Type::flagsChanged, .modifierFlags = shift};
+    EXPECT_EQ(desktop.monitors.deliverLocal(event).modifierFlags, shift) << "the event goes on as it came";
+    EXPECT_EQ(desktop.log.lines, (std::vector<std::string>{"单击修饰键。。。。。。", "修饰键状态变化: 131072"}));
+    wait(2000);
+    for (const std::uint64_t held : {command, none, command, none}) {
+        desktop.monitors.deliverLocal({.type = Event::Type::flagsChanged, .modifierFlags = held});
+    }
+    EXPECT_FALSE(isShortcutWindowShown) << "a double press closes it from here too";
+}
+
+TEST_F(Trigger, EscapeHidesThePanelAndGoesOnOtherKeysDoNothing) {
+    isShortcutWindowShown = true;
+    desktop.monitors.deliverLocal({.type = Event::Type::keyDown, .modifierFlags = none, .keyCode = 12});
+    EXPECT_TRUE(isShortcutWindowShown);
+    const Event escape =
+        desktop.monitors.deliverLocal({.type = Event::Type::keyDown, .modifierFlags = none, .keyCode = 53});
+    EXPECT_EQ(escape.keyCode, 53);
+    EXPECT_FALSE(isShortcutWindowShown);
+    EXPECT_TRUE(desktop.log.contains("ESC 键被按下"));
+}
+
+TEST_F(Trigger, TheLoginHelperIsNamedAfterTheProgramAndTheOutcomeLogged) {
+    utility.setLaunchAtLogin(true);
+    desktop.loginItems.succeeds = false;
+    utility.setLaunchAtLogin(false);
+    EXPECT_EQ(desktop.loginItems.requests[0], std::pair(desktop.bundle.identifier + "Helper", true));
+    EXPECT_TRUE(desktop.log.contains("Call LoginItemSetEnabled with [true] success"));
+    EXPECT_TRUE(desktop.log.contains("Call LoginItemSetEnabled with [false] failed"));
+}
+
+TEST_F(Trigger, TheVersionIsATextOrNothing) {
+    EXPECT_EQ(utility.appVersion(), "");
+    desktop.bundle.info["CFBundleShortVersionString"] = std::int64_t{3};
+    EXPECT_EQ(utility.appVersion(), "");
+    desktop.bundle.info["CFBundleShortVersionString"] = std::string("1.2");
+    EXPECT_EQ(utility.appVersion(), "1.2");
+}
+
+}  // namespace
+}  // namespace orlamo
