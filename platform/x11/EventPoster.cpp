@@ -1,0 +1,72 @@
+#include "platform/x11/EventPoster.h"
+
+#include <xcb/xtest.h>
+
+#include <ranges>
+
+#include "platform/Log.h"
+
+namespace orlamo::x11 {
+
+namespace {
+
+/// Nobody else's key gets between looking at the keyboard and posting.
+class ServerGrab {
+public:
+    explicit ServerGrab(Connection& connection) : connection_(connection) { xcb_grab_server(connection_.xcb()); }
+    ~ServerGrab() {
+        xcb_ungrab_server(connection_.xcb());
+        connection_.flush();
+    }
+    ServerGrab(const ServerGrab&) = delete;
+    ServerGrab& operator=(const ServerGrab&) = delete;
+
+private:
+    Connection& connection_;
+};
+
+}  // namespace
+
+void EventPoster::CGEventPost(EventTapLocation, const KeyboardEvent& event) {
+    if (event.keyDown) {
+        press(event);
+    } else if (posted_ && posted_->virtualKeyCode == event.keyCode) {
+        release();
+    }
+}
+
+void EventPoster::press(const KeyboardEvent& event) {
+    if (posted_) release();
+    if (!connection_.extensions().xtest || !keyboard_.isAvailable()) {
+        return refuse(event, "the X server does not let programs type");
+    }
+    const ServerGrab grab(connection_);
+    const auto held = keyboard_.heldKeys();
+    if (!held) return refuse(event, "the X server does not answer");
+    auto plan = planPosting(keyboard_.layout(), *held, event.keyCode, event.flags);
+    if (const auto* const refusal = std::get_if<Refusal>(&plan)) return refuse(event, refusal->reason);
+
+    posted_ = Posted{event.keyCode, std::get<PostingPlan>(std::move(plan))};
+    for (const std::uint8_t modifier : posted_->plan.modifiers) fakeKey(XCB_KEY_PRESS, modifier);
+    fakeKey(XCB_KEY_PRESS, posted_->plan.key);
+}
+
+void EventPoster::release() {
+    fakeKey(XCB_KEY_RELEASE, posted_->plan.key);
+    for (const std::uint8_t modifier : posted_->plan.modifiers | std::views::reverse) {
+        fakeKey(XCB_KEY_RELEASE, modifier);
+    }
+    posted_.reset();
+    connection_.flush();
+}
+
+void EventPoster::fakeKey(std::uint8_t type, std::uint8_t keycode) {
+    xcb_test_fake_input(connection_.xcb(), type, keycode, XCB_CURRENT_TIME, connection_.root(), 0, 0, 0);
+}
+
+void EventPoster::refuse(const KeyboardEvent& event, const std::string& reason) {
+    logLine("key " + std::to_string(event.keyCode) + " with flags " + std::to_string(event.flags) +
+            " is not posted: " + reason);
+}
+
+}  // namespace orlamo::x11

@@ -1,0 +1,104 @@
+#include "platform/x11/WindowEffects.h"
+
+#include <xcb/shape.h>
+
+#include <algorithm>
+#include <string>
+
+#include "platform/Log.h"
+#include "platform/x11/RoundedShape.h"
+#include "platform/x11/ScreenCopy.h"
+
+namespace orlamo::x11 {
+
+namespace {
+
+constexpr std::string_view blurRegion = "_KDE_NET_WM_BLUR_BEHIND_REGION";
+
+}  // namespace
+
+WindowEffects::WindowEffects(Connection& connection, Windows& windows, FocusMemory& memory)
+    : connection_(connection), windows_(windows), memory_(memory) {
+    subscription_ = connection_.subscribe([this](const xcb_generic_event_t& event) {
+        if ((event.response_type & 0x7f) != XCB_MAP_NOTIFY) return;
+        mapped(reinterpret_cast<const xcb_map_notify_event_t&>(event).window);
+    });
+}
+
+bool WindowEffects::isComposited() {
+    const xcb_atom_t manager = connection_.atom("_NET_WM_CM_S" + std::to_string(connection_.screenNumber()));
+    const auto owner =
+        connection_.reply(xcb_get_selection_owner_reply, xcb_get_selection_owner(connection_.xcb(), manager));
+    return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
+bool WindowEffects::canBlurBehind() {
+    if (!isComposited()) return false;
+    // The compositor hangs the property on the root window while its blur effect is loaded.
+    const xcb_atom_t region = connection_.atom(blurRegion);
+    const auto properties =
+        connection_.reply(xcb_list_properties_reply, xcb_list_properties(connection_.xcb(), connection_.root()));
+    if (!properties) return false;
+    const xcb_atom_t* const first = xcb_list_properties_atoms(properties.get());
+    const xcb_atom_t* const last = first + xcb_list_properties_atoms_length(properties.get());
+    if (std::find(first, last, region) != last) return true;
+    const auto supported = windows_.numbers(connection_.root(), "_NET_SUPPORTED");
+    return std::ranges::find(supported, region) != supported.end();
+}
+
+void WindowEffects::blurBehind(NativeWindow window, int width, int height, int radius) {
+    std::vector<std::uint32_t> region;
+    for (const PixelRect& band : roundedBands(width, height, radius)) {
+        for (const int value : {band.x, band.y, band.width, band.height}) {
+            region.push_back(static_cast<std::uint32_t>(value));
+        }
+    }
+    xcb_change_property(connection_.xcb(), XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window),
+                        connection_.atom(blurRegion), XCB_ATOM_CARDINAL, 32, static_cast<std::uint32_t>(region.size()),
+                        region.data());
+    connection_.flush();
+}
+
+std::optional<PixelImage> WindowEffects::copyScreen(const PixelRect& area) {
+    return copyScreenArea(connection_, area);
+}
+
+void WindowEffects::shapeRounded(NativeWindow window, int width, int height, int radius) {
+    if (!connection_.extensions().shape) return;  // said once, at the start
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const PixelRect& band : roundedBands(width, height, radius)) {
+        rectangles.push_back({static_cast<std::int16_t>(band.x), static_cast<std::int16_t>(band.y),
+                              static_cast<std::uint16_t>(band.width), static_cast<std::uint16_t>(band.height)});
+    }
+    for (const xcb_shape_sk_t kind : {XCB_SHAPE_SK_BOUNDING, XCB_SHAPE_SK_INPUT}) {
+        xcb_shape_rectangles(connection_.xcb(), XCB_SHAPE_SO_SET, static_cast<xcb_shape_kind_t>(kind),
+                             XCB_CLIP_ORDERING_YX_BANDED, static_cast<xcb_window_t>(window), 0, 0,
+                             static_cast<std::uint32_t>(rectangles.size()), rectangles.data());
+    }
+    connection_.flush();
+}
+
+void WindowEffects::giveFocus(NativeWindow window) {
+    const auto own = static_cast<xcb_window_t>(window);
+    remember();
+    windows_.watch(own);
+    waitingForMap_ = windows_.setFocus(own) ? 0 : own;
+}
+
+void WindowEffects::mapped(xcb_window_t window) {
+    if (window != waitingForMap_) return;
+    waitingForMap_ = 0;
+    if (!windows_.setFocus(window)) logLine("the window system refuses the panel the input focus");
+}
+
+void WindowEffects::remember() {
+    const FocusHolder holder = windows_.focusHolder();
+    std::optional<FocusMemory::Former> former;
+    const auto focus = windows_.focus();
+    if (focus && holder == FocusHolder::otherProgram) {
+        former = FocusMemory::Former{*focus, windows_.applicationProcess(*focus)};
+    }
+    memory_.taken(holder, former);
+}
+
+}  // namespace orlamo::x11

@@ -1,0 +1,129 @@
+#include "platform/x11/Workspace.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "platform/x11/ApplicationName.h"
+
+namespace orlamo::x11 {
+
+namespace {
+
+constexpr std::uint32_t sourcePager = 2;  // the user asked for it, not the application
+
+}  // namespace
+
+RunningApplication Workspace::ownApplication() const {
+    return {::getpid(), ownIdentifier_, ownIdentifier_};
+}
+
+RunningApplication Workspace::describe(xcb_window_t window) {
+    const xcb_window_t owner = windows_.transientOwner(window);
+    if (windows_.isOwn(owner)) return ownApplication();
+    RunningApplication application;
+    application.processIdentifier = windows_.processIdentifier(owner);
+    const std::string windowClass = windows_.windowClass(owner);
+    std::string identifier = windows_.text(owner, "_GTK_APPLICATION_ID");
+    if (identifier.empty()) identifier = windowClass;
+    if (!identifier.empty()) application.bundleIdentifier = identifier;
+    std::string title = windows_.text(owner, "_NET_WM_NAME");
+    if (title.empty()) title = windows_.text(owner, "WM_NAME");
+    application.localizedName = applicationName(windowClass, title);
+    return application;
+}
+
+std::optional<xcb_window_t> Workspace::frontmostWindow() {
+    if (const auto active = windows_.activeWindow()) return active;
+    if (windows_.hasWindowManager()) return std::nullopt;
+    const auto focus = windows_.focus();
+    if (!focus) return std::nullopt;
+    return windows_.applicationWindow(*focus);
+}
+
+std::optional<RunningApplication> Workspace::frontmostApplication() {
+    if (memory_.isFrontmost(windows_.focusHolder())) return ownApplication();
+    const auto window = frontmostWindow();
+    if (!window) return std::nullopt;
+    RunningApplication application = describe(*window);
+    if (application.processIdentifier == 0) return std::nullopt;
+    return application;
+}
+
+std::vector<xcb_window_t> Workspace::recentWindows() {
+    auto recent = windows_.stackedWindows();
+    std::ranges::reverse(recent);
+    const auto moveToFront = [&recent](xcb_window_t window) {
+        const auto found = std::ranges::find(recent, window);
+        if (found != recent.end()) std::rotate(recent.begin(), found, found + 1);
+    };
+    if (const auto window = frontmostWindow()) moveToFront(*window);
+    if (const auto former = memory_.former()) moveToFront(windows_.applicationWindow(former->window));
+    return recent;
+}
+
+std::vector<RunningApplication> Workspace::runningApplicationsWithBundleIdentifier(std::string_view identifier) {
+    std::vector<RunningApplication> running;
+    if (identifier.empty()) return running;
+    for (const xcb_window_t window : recentWindows()) {
+        RunningApplication application = describe(window);
+        if (application.bundleIdentifier != identifier || application.processIdentifier == 0) continue;
+        const bool known = std::ranges::any_of(running, [&application](const RunningApplication& other) {
+            return other.processIdentifier == application.processIdentifier;
+        });
+        if (!known) running.push_back(std::move(application));
+    }
+    return running;
+}
+
+bool Workspace::activateWithOptions(const RunningApplication& application, unsigned) {
+    const int process = application.processIdentifier;
+    if (process == 0) return false;
+    const auto focus = windows_.focus();
+    if (focus && windows_.applicationProcess(*focus) == process) {
+        memory_.settled();
+        return true;
+    }
+    if (returnFocus(process)) return true;
+    for (const xcb_window_t window : recentWindows()) {
+        if (windows_.applicationProcess(window) != process) continue;
+        requestActivation(window);
+        memory_.settled();
+        return true;
+    }
+    return false;
+}
+
+bool Workspace::returnFocus(int processIdentifier) {
+    const auto former = memory_.former();
+    if (!former || former->processIdentifier != processIdentifier) return false;
+    memory_.settled();
+    if (!windows_.setFocus(former->window)) return false;
+    // The window manager may have made another window the active one meanwhile.
+    const auto active = windows_.activeWindow();
+    const xcb_window_t wanted = windows_.applicationWindow(former->window);
+    if (active && *active != wanted) requestActivation(wanted);
+    return true;
+}
+
+void Workspace::requestActivation(xcb_window_t window) {
+    if (!windows_.hasWindowManager()) {
+        const std::uint32_t above = XCB_STACK_MODE_ABOVE;
+        xcb_configure_window(connection_.xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+        windows_.setFocus(window);
+        return;
+    }
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = connection_.atom("_NET_ACTIVE_WINDOW");
+    message.data.data32[0] = sourcePager;
+    message.data.data32[1] = connection_.serverTime();
+    xcb_send_event(connection_.xcb(), 0, connection_.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char*>(&message));
+    connection_.flush();
+}
+
+}  // namespace orlamo::x11

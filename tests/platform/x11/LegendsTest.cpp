@@ -1,0 +1,41 @@
+#include "platform/x11/Legends.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+namespace orlamo::x11 {
+namespace {
+
+TEST(Legends, EveryCombinationHasOneOfItsOwn) {
+    std::set<std::string_view> printed;
+    for (unsigned bits = 1; bits < 16; ++bits) {
+        std::string text;
+        if ((bits & 1) != 0) text += "⌃";
+        if ((bits & 2) != 0) text += "⌥";
+        if ((bits & 4) != 0) text += "⇧";
+        if ((bits & 8) != 0) text += "⌘";
+        const std::string_view legend = modifierLegendOf(text);
+        EXPECT_EQ(legend.find("⌘"), std::string_view::npos) << text;
+        EXPECT_EQ(legend.find("⌥"), std::string_view::npos) << text;
+        EXPECT_EQ(legend.find("⌃"), std::string_view::npos) << text;
+        EXPECT_TRUE(printed.insert(legend).second) << text << " reads like another: " << legend;
+    }
+}
+
+TEST(Legends, KeysReadAsTheKeyboardPrintsThem) {
+    EXPECT_EQ(modifierLegendOf("⇧⌘"), "⇧Ctrl");
+    EXPECT_EQ(modifierLegendOf("⌃"), "Super");
+    EXPECT_EQ(keyLegendOf("F13"), "Prt");
+    EXPECT_EQ(keyLegendOf("HELP"), "Ins");
+    EXPECT_EQ(keyLegendOf("DELETE"), "Del");
+}
+
+TEST(Legends, OtherTextsStayAsTheyAre) {
+    for (const char* const text : {"", "Q", "F5", "⌫", "??", "←"}) EXPECT_EQ(keyLegendOf(text), text);
+    for (const char* const text : {"", "⌘⇧", "x"}) EXPECT_EQ(modifierLegendOf(text), text);
+}
+
+}  // namespace
+}  // namespace orlamo::x11

@@ -1,0 +1,51 @@
+#include "platform/x11/MonitorList.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace orlamo::x11 {
+namespace {
+
+TEST(MonitorList, AnEventReachesTheHandlersOfItsDestinationAndTypeInOrder) {
+    MonitorList list;
+    std::string heard;
+    const auto local = [&heard](char name) {
+        return EventMonitors::LocalHandler([&heard, name](const Event& event) {
+            heard += name;
+            return event;
+        });
+    };
+    const auto first = list.add(flagsChangedMask, local('a'));
+    const auto second =
+        list.add(flagsChangedMask, EventMonitors::GlobalHandler([&heard](const Event&) { heard += 'g'; }));
+    list.add(keyDownMask, local('k'));
+    list.add(flagsChangedMask | keyDownMask, local('b'));
+    EXPECT_NE(first, second);
+
+    list.dispatch({Event::Type::flagsChanged, 0x100, 0}, Destination::local);
+    EXPECT_EQ(std::exchange(heard, ""), "ab");
+    list.dispatch({Event::Type::flagsChanged, 0x100, 0}, Destination::global);
+    EXPECT_EQ(std::exchange(heard, ""), "g");
+    list.dispatch({Event::Type::keyDown, 0x100, 53}, Destination::local);
+    EXPECT_EQ(std::exchange(heard, ""), "kb");
+    list.dispatch({Event::Type::leftMouseDown, 0x100, 0}, Destination::global);
+    EXPECT_EQ(heard, "");
+}
+
+TEST(MonitorList, AHandlerMayAddAnother) {
+    MonitorList list;
+    int later = 0;
+    list.add(flagsChangedMask, EventMonitors::GlobalHandler([&](const Event&) {
+                 for (int i = 0; i < 50; ++i) {
+                     list.add(flagsChangedMask, EventMonitors::GlobalHandler([&later](const Event&) { ++later; }));
+                 }
+             }));
+    list.dispatch({}, Destination::global);
+    EXPECT_EQ(later, 0);
+    list.dispatch({}, Destination::global);
+    EXPECT_EQ(later, 50);
+}
+
+}  // namespace
+}  // namespace orlamo::x11
