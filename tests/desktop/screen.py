@@ -99,6 +99,19 @@ class Screen:
         window = self.active_window()
         return self.pid_of(window) if window else None
 
+    def keyboard_pid(self):
+        """The process whose window gets the keys."""
+        window = self.display.get_input_focus().focus
+        while not isinstance(window, int) and window.id != self.root.id:
+            pid = self.pid_of(window)
+            if pid:
+                return pid
+            try:
+                window = window.query_tree().parent
+            except (error.BadWindow, error.BadDrawable):
+                return None
+        return None
+
     def window_manager_runs(self):
         return self._property(self.root, "_NET_SUPPORTING_WM_CHECK", Xatom.WINDOW) is not None
 

@@ -151,7 +151,8 @@ class Application:
         self.file = file
 
     def is_in_front(self):
-        return self.session.screen.active_pid() == self.pid
+        """It is the active application, and what is typed goes to it."""
+        return self.session.screen.active_pid() == self.pid and self.session.screen.keyboard_pid() == self.pid
 
     def accessible(self):
         return accessible.AccessibleApplication(self.session.accessibility_bus, self.pid)
