@@ -137,6 +137,11 @@ TEST_F(MenuHarvest, ASubmenuAtTheEndKeepsItsTitleUnlessItsOwnMenuHasNone) {
     EXPECT_THAT(harvestedMenu({menu("Find", {item("Next", "G")})}), ElementsAre("Edit", "Edit|Next|⌘|G|"));
 }
 
+TEST_F(MenuHarvest, ASubmenuNamedLikeItsMenuIsPartOfTheMenu) {
+    EXPECT_THAT(harvestedMenu({submenu("Edit", {item("Next", "G")}), item("Copy", "C")}),
+                ElementsAre("Edit", "Edit|Copy|⌘|C|", "Edit|Next|⌘|G|"));
+}
+
 TEST_F(MenuHarvest, ASubmenuTitleSeenBeforeGetsNoSecondHeading) {
     ax.setMenuBar(pid, {menu("A", {submenu("Zoom", {item("In", "I")})}), menu("", {}),
                         menu("B", {submenu("Zoom", {item("Out", "O")})})});
