@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/Log.h"
+#include "platform/RunLoop.h"
 #include "platform/x11/RoundedShape.h"
 #include "platform/x11/ScreenCopy.h"
 
@@ -14,6 +15,7 @@ namespace orlamo::x11 {
 namespace {
 
 constexpr std::string_view blurRegion = "_KDE_NET_WM_BLUR_BEHIND_REGION";
+constexpr double keptSeconds = 0.5;
 
 }  // namespace
 
@@ -83,6 +85,31 @@ void WindowEffects::giveFocus(NativeWindow window) {
     remember();
     windows_.watch(own);
     waitingForMap_ = windows_.setFocus(own) ? 0 : own;
+}
+
+void WindowEffects::keepFocus(NativeWindow window) {
+    const auto own = static_cast<xcb_window_t>(window);
+    if (waitingForMap_ == own) waitingForMap_ = 0;
+    if (!memory_.former() || windows_.focus() != own || !windows_.isUnmanaged(own)) return;
+    // The answer is awaited: the toolkit may unmap its window after this.
+    if (keeper_ == 0) createKeeper();
+    xcb_map_window(connection_.xcb(), keeper_);
+    windows_.setFocus(keeper_);
+    RunLoop::shared().asyncAfter(keptSeconds, [this, life = std::weak_ptr<bool>(life_)] {
+        if (!life.expired()) dropKeptFocus();
+    });
+}
+
+void WindowEffects::dropKeptFocus() {
+    xcb_unmap_window(connection_.xcb(), keeper_);
+    connection_.flush();
+}
+
+void WindowEffects::createKeeper() {
+    keeper_ = xcb_generate_id(connection_.xcb());
+    const std::uint32_t unmanaged = 1;
+    xcb_create_window(connection_.xcb(), 0, keeper_, connection_.root(), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                      XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &unmanaged);
 }
 
 void WindowEffects::mapped(xcb_window_t window) {

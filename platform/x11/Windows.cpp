@@ -3,6 +3,7 @@
 #include <unistd.h>
 #include <xcb/res.h>
 
+#include <algorithm>
 #include <cstring>
 
 namespace orlamo::x11 {
@@ -60,7 +61,7 @@ FocusHolder Windows::focusHolder() {
     // Window managers park the focus on a window of their own while no application has it.
     const auto manager = numbers(connection_.root(), "_NET_SUPPORTING_WM_CHECK");
     const bool parked = !manager.empty() && processIdentifier(*window) == processIdentifier(manager.front()) &&
-                        windowClass(applicationWindow(*window)).empty();
+                        !std::ranges::count(stackedWindows(), applicationWindow(*window));
     return parked ? FocusHolder::nobody : FocusHolder::otherProgram;
 }
 
@@ -78,6 +79,12 @@ bool Windows::isViewable(xcb_window_t window) {
     const auto attributes =
         connection_.reply(xcb_get_window_attributes_reply, xcb_get_window_attributes(connection_.xcb(), window));
     return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+bool Windows::isUnmanaged(xcb_window_t window) {
+    const auto attributes =
+        connection_.reply(xcb_get_window_attributes_reply, xcb_get_window_attributes(connection_.xcb(), window));
+    return attributes && attributes->override_redirect != 0;
 }
 
 bool Windows::setFocus(xcb_window_t window) {

@@ -25,6 +25,8 @@ public:
     FocusHolder focusHolder();
     bool pointerIsOverOwnWindow();
     bool isViewable(xcb_window_t window);
+    /// Whether window managers leave it alone.
+    bool isUnmanaged(xcb_window_t window);
     /// False when the window cannot take it.
     bool setFocus(xcb_window_t window);
     /// From now on the connection hears of that window's focus, mapping and end.
