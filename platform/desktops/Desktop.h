@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace orlamo::desktops {
+
+/// Desktops whose shortcuts can be read. gnomeBased has GNOME's settings but a shell and a panel of its own.
+enum class Desktop { gnome, gnomeBased, flashback, budgie, cinnamon, mate, xfce, kde };
+
+/// From XDG_CURRENT_DESKTOP, a list such as "ubuntu:GNOME": the first known name counts.
+std::optional<Desktop> desktopOfNames(std::string_view colonSeparatedNames);
+
+}  // namespace orlamo::desktops

@@ -1,0 +1,51 @@
+#include "platform/desktops/DesktopPreferences.h"
+
+#include <cstdlib>
+
+#include "platform/Log.h"
+#include "platform/desktops/GioSettingsSource.h"
+#include "platform/desktops/SymbolicHotKeys.h"
+
+namespace orlamo::desktops {
+
+namespace {
+
+constexpr std::string_view hotKeyDomain = "com.apple.symbolichotkeys";
+constexpr std::string_view hotKeyKey = "AppleSymbolicHotKeys";
+
+std::string currentDesktopOfEnvironment() {
+    const char* const names = std::getenv("XDG_CURRENT_DESKTOP");
+    return names == nullptr ? "" : names;
+}
+
+}  // namespace
+
+DesktopPreferences::DesktopPreferences()
+    : DesktopPreferences(std::make_unique<GioSettingsSource>(), currentDesktopOfEnvironment) {}
+
+DesktopPreferences::DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop)
+    : source_(std::move(source)), currentDesktop_(std::move(currentDesktop)) {}
+
+DesktopPreferences::~DesktopPreferences() = default;
+
+void DesktopPreferences::CFPreferencesAppSynchronize(std::string_view domain) {
+    if (domain == hotKeyDomain) hotKeys_.reset();
+}
+
+PropertyList DesktopPreferences::CFPreferencesCopyAppValue(std::string_view key, std::string_view domain) {
+    if (domain != hotKeyDomain || key != hotKeyKey) return {};
+    if (!hotKeys_) hotKeys_ = read();
+    return *hotKeys_;
+}
+
+PropertyList DesktopPreferences::read() {
+    const auto names = currentDesktop_();
+    const auto desktop = desktopOfNames(names);
+    if (!desktop) return {};
+    source_->refresh();
+    auto hotKeys = symbolicHotKeys(*desktop, *source_);
+    if (hotKeys == PropertyList()) logLine("The shortcuts of the desktop \"" + names + "\" cannot be read");
+    return hotKeys;
+}
+
+}  // namespace orlamo::desktops

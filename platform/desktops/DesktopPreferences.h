@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/SystemPreferences.h"
+#include "platform/desktops/SettingsSource.h"
+
+namespace orlamo::desktops {
+
+/// Answers "com.apple.symbolichotkeys" from the settings of the desktop that runs. What was read stays until the next
+/// CFPreferencesAppSynchronize of that domain. Other domains and keys have no value.
+class DesktopPreferences final : public SystemPreferences {
+public:
+    using CurrentDesktop = std::function<std::string()>;
+
+    /// The desktop that XDG_CURRENT_DESKTOP names, its settings read through GIO.
+    DesktopPreferences();
+    DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop);
+    ~DesktopPreferences() override;
+
+    void CFPreferencesAppSynchronize(std::string_view domain) override;
+    PropertyList CFPreferencesCopyAppValue(std::string_view key, std::string_view domain) override;
+
+private:
+    PropertyList read();
+
+    std::unique_ptr<SettingsSource> source_;
+    CurrentDesktop currentDesktop_;
+    std::optional<PropertyList> hotKeys_;
+};
+
+}  // namespace orlamo::desktops

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/desktops/SettingsSource.h"
+
+namespace orlamo::desktops {
+
+/// Reads GSettings, and xfconf and KGlobalAccel over the session bus. Starts no service, and waits for the bus 150 ms
+/// in all between one refresh() and the next. What cannot be read is absent, with a line in the log.
+class GioSettingsSource final : public SettingsSource {
+public:
+    GioSettingsSource();
+    ~GioSettingsSource() override;
+
+    void refresh() override;
+    std::optional<std::vector<std::string>> texts(std::string_view schema, std::string_view key) override;
+    std::optional<std::map<std::string, std::string>> properties(std::string_view channel) override;
+    std::optional<std::vector<GlobalShortcut>> globalShortcuts(std::span<const std::string_view> components) override;
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace orlamo::desktops

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "platform/desktops/GioPointers.h"
+
+namespace orlamo::desktops {
+
+/// Calls over the session bus that together take no longer than a stretch of time.
+class SessionBus {
+public:
+    /// Callbacks of the connecting run in `context`.
+    explicit SessionBus(GMainContext* context);
+    ~SessionBus();
+
+    /// A new stretch of time begins.
+    void restartClock();
+    /// Connects when there is a bus and no connection to it; tries once in a stretch of time. Losing the bus later does
+    /// not end the program.
+    bool connect();
+    /// The answer when it has that type, or null. Starts no service. `parameters` may be floating.
+    Owned<GVariant> call(const std::string& service, const std::string& path, const std::string& interface,
+                         const std::string& method, GVariant* parameters, const char* answerType);
+
+private:
+    std::chrono::milliseconds timeLeft() const;
+
+    GMainContext* context_;
+    Owned<GDBusConnection> connection_;
+    std::chrono::steady_clock::time_point deadline_;
+    bool hasFailed_ = false;
+};
+
+}  // namespace orlamo::desktops

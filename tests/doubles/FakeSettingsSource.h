@@ -1,0 +1,40 @@
+#pragma once
+
+#include <algorithm>
+
+#include "platform/desktops/SettingsSource.h"
+
+namespace orlamo {
+
+/// Answers from its fields. Installs nothing: it is handed over.
+class FakeSettingsSource : public desktops::SettingsSource {
+public:
+    void refresh() override { ++refreshes; }
+
+    std::optional<std::vector<std::string>> texts(std::string_view schema, std::string_view key) override {
+        const auto found = settings.find(std::string(schema) + " " + std::string(key));
+        if (found == settings.end()) return std::nullopt;
+        return found->second;
+    }
+
+    std::optional<std::map<std::string, std::string>> properties(std::string_view channel) override {
+        return channel == "xfce4-keyboard-shortcuts" ? xfconf : std::nullopt;
+    }
+
+    std::optional<std::vector<desktops::GlobalShortcut>> globalShortcuts(
+        std::span<const std::string_view> components) override {
+        if (!kde) return std::nullopt;
+        auto answer = *kde;
+        std::erase_if(answer, [&](const auto& each) {
+            return std::ranges::find(components, each.component) == components.end();
+        });
+        return answer;
+    }
+
+    std::map<std::string, std::vector<std::string>> settings;  // by "schema key"
+    std::optional<std::map<std::string, std::string>> xfconf;
+    std::optional<std::vector<desktops::GlobalShortcut>> kde;
+    int refreshes = 0;
+};
+
+}  // namespace orlamo

@@ -1,0 +1,165 @@
+#include "platform/desktops/DesktopPreferences.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/doubles/FakeLog.h"
+#include "tests/doubles/FakeSettingsSource.h"
+
+namespace orlamo::desktops {
+namespace {
+
+constexpr auto domain = "com.apple.symbolichotkeys";
+constexpr auto key = "AppleSymbolicHotKeys";
+
+class DesktopPreferencesTest : public testing::Test {
+protected:
+    PropertyList read(std::string desktop) {
+        this->desktop = std::move(desktop);
+        preferences.CFPreferencesAppSynchronize(domain);
+        return preferences.CFPreferencesCopyAppValue(key, domain);
+    }
+
+    // "on [115, 1, 262144]", "off [65535, 65535, 0]" or "missing".
+    std::string entry(const std::string& names, std::string_view id) {
+        const auto hotKeys = read(names);
+        const auto* const found = hotKeys.at(id);
+        if (found == nullptr) return "missing";
+        const bool isOn = *found->at("enabled")->get<bool>();
+        return (isOn ? "on " : "off ") + found->at("value")->at("parameters")->description();
+    }
+
+    FakeLog log;
+    std::string desktop;
+    FakeSettingsSource* source = new FakeSettingsSource;
+    DesktopPreferences preferences{std::unique_ptr<SettingsSource>(source), [this] { return desktop; }};
+};
+
+const std::string off = "off [65535, 65535, 0]";
+const std::string wm = "org.gnome.desktop.wm.keybindings ";
+const std::string mediaKeys = "org.gnome.settings-daemon.plugins.media-keys ";
+
+TEST_F(DesktopPreferencesTest, OfAnUnknownDesktopHaveNoValueAndAskNobody) {
+    EXPECT_EQ(read("openbox"), PropertyList());
+    EXPECT_EQ(source->refreshes, 0);
+    EXPECT_TRUE(log.lines.empty());
+}
+
+TEST_F(DesktopPreferencesTest, OfAKnownDesktopThatCannotBeReadHaveNoValueAndALogLine) {
+    for (const auto* name : {"GNOME", "XFCE", "KDE", "MATE"}) EXPECT_EQ(read(name), PropertyList()) << name;
+    EXPECT_TRUE(log.contains("The shortcuts of the desktop \"XFCE\" cannot be read"));
+}
+
+TEST_F(DesktopPreferencesTest, AnswerThatDomainAndKeyOnly) {
+    desktop = "GNOME";
+    source->settings[wm + "show-desktop"] = {"<Super>d"};
+    EXPECT_NE(preferences.CFPreferencesCopyAppValue(key, domain), PropertyList());
+    EXPECT_EQ(preferences.CFPreferencesCopyAppValue("Other", domain), PropertyList());
+    EXPECT_EQ(preferences.CFPreferencesCopyAppValue(key, "com.apple.dock"), PropertyList());
+}
+
+TEST_F(DesktopPreferencesTest, AreReadAgainAfterASynchronizeAndNotBefore) {
+    source->settings[wm + "show-desktop"] = {"<Super>d"};
+    const auto before = read("GNOME");
+    source->settings[wm + "show-desktop"] = {"<Super>F12"};
+    EXPECT_EQ(preferences.CFPreferencesCopyAppValue(key, domain), before);
+    EXPECT_EQ(entry("GNOME", "36"), "on [65535, 111, 262144]");
+    EXPECT_EQ(source->refreshes, 2);
+    EXPECT_EQ(entry("XFCE", "36"), "missing");
+}
+
+TEST_F(DesktopPreferencesTest, TakeTheFirstBindingOfGnomeThatCanBeWritten) {
+    const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+        {{"<Super>space", "XF86Keyboard"}, "on [32, 49, 262144]"},
+        {{"XF86Keyboard", "<Super>space"}, "on [32, 49, 262144]"},
+        {{"", "<Super>F1"}, "on [65535, 122, 262144]"},
+        {{"XF86Keyboard"}, "missing"},
+        {{"Super_L"}, "missing"},
+        {{""}, off},
+        {{}, off},
+    };
+    for (const auto& [texts, expected] : cases) {
+        source->settings[wm + "switch-input-source"] = texts;
+        EXPECT_EQ(entry("ubuntu:GNOME", "61"), expected) << testing::PrintToString(texts);
+    }
+}
+
+TEST_F(DesktopPreferencesTest, MergeTheStaticSiblingOfAGnomeKey) {
+    source->settings[mediaKeys + "search"] = {""};
+    source->settings[mediaKeys + "search-static"] = {"XF86Search"};
+    EXPECT_EQ(entry("GNOME", "64"), "missing");
+    source->settings[mediaKeys + "search-static"] = {"XF86Search", "<Super>f"};
+    EXPECT_EQ(entry("GNOME", "64"), "on [102, 3, 262144]");
+    source->settings[mediaKeys + "search"] = {"<Super>g"};
+    EXPECT_EQ(entry("GNOME", "64"), "on [103, 5, 262144]");
+}
+
+TEST_F(DesktopPreferencesTest, LeaveOutWhatTheGnomeShellDoesWhenAnotherShellRuns) {
+    source->settings["org.gnome.shell.keybindings toggle-overview"] = {"<Super>s"};
+    source->settings[wm + "show-desktop"] = {"<Super>d"};
+    EXPECT_EQ(entry("GNOME", "32"), "on [115, 1, 262144]");
+    EXPECT_EQ(entry("Budgie:GNOME", "32"), "missing");
+    EXPECT_EQ(entry("Budgie:GNOME", "36"), "on [100, 2, 262144]");
+}
+
+TEST_F(DesktopPreferencesTest, OfMateTakeTheSecondActionWhenTheFirstIsDisabled) {
+    source->settings["org.mate.Marco.global-keybindings switch-windows"] = {"disabled"};
+    source->settings["org.mate.Marco.global-keybindings cycle-windows"] = {"<Alt>Escape"};
+    source->settings["org.mate.Marco.global-keybindings switch-to-workspace-1"] = {"disabled"};
+    EXPECT_EQ(entry("MATE", "9"), "on [27, 53, 524288]");
+    EXPECT_EQ(entry("MATE", "118"), off);
+}
+
+TEST_F(DesktopPreferencesTest, OfXfceFollowTheOverrideOfEachHalf) {
+    source->xfconf = {{"/xfwm4/default/<Primary><Alt>d", "show_desktop_key"},
+                      {"/xfwm4/custom/<Super>d", "show_desktop_key"},
+                      {"/commands/default/<Alt><Super>s", "orca"},
+                      {"/commands/custom/<Super>o", "orca"},
+                      {"/commands/custom/override", "true"}};
+    EXPECT_EQ(entry("XFCE", "36"), "on [100, 2, 1572864]");
+    EXPECT_EQ(entry("XFCE", "59"), "on [111, 31, 262144]");
+    EXPECT_EQ(entry("XFCE", "79"), off);
+    (*source->xfconf)["/xfwm4/custom/override"] = "true";
+    (*source->xfconf)["/commands/custom/override"] = "false";
+    EXPECT_EQ(entry("XFCE", "36"), "on [100, 2, 262144]");
+    EXPECT_EQ(entry("XFCE", "59"), "on [115, 1, 786432]");
+}
+
+TEST_F(DesktopPreferencesTest, OfXfceTellCommandsApartByTheirOptions) {
+    const std::vector<std::tuple<std::string, std::string, std::string>> cases = {
+        {"xfce4-screenshooter -r", "30", "on"},
+        {"xfce4-screenshooter -r", "28", "off"},
+        {"/usr/bin/xfce4-screenshooter -fc", "29", "on"},
+        {"xfce4-screenshooter -fc", "28", "off"},
+        {"xfce4-screenshooter --region -c", "31", "on"},
+        {"xfce4-screenshooter -w", "28", "off"},
+        {"xfce4-screenshooter", "28", "on"},
+        {"xfce4-appfinder --collapsed", "160", "off"},
+        {"xfce4-appfinder", "160", "on"},
+        {"xfce4-appfinder-next", "160", "off"},
+        {"", "160", "off"},
+    };
+    for (const auto& [command, id, state] : cases) {
+        source->xfconf = {{"/commands/default/<Super>r", command},
+                          {"/commands/default/<Super>r/startup-notify", "true"}};
+        EXPECT_EQ(entry("XFCE", id).substr(0, state.size()), state) << command << " " << id;
+    }
+}
+
+TEST_F(DesktopPreferencesTest, OfKdeReadTheKeysOfComponentAndAction) {
+    source->kde = {{"kwin", "Show Desktop", {0x10000044}},
+                   {"kwin", "view_zoom_in", {0x1000002b, 0x1000003d}},
+                   {"kwin", "Overview", {}},
+                   {"kwin", "ExposeAll", {0x05000039}},
+                   {"kwin", "Invert", {}},
+                   {"plasmashell", "Show Desktop", {0x10000045}},
+                   {"org.kde.krunner.desktop", "_launch", {0x01000092, 0x08000020}}};
+    EXPECT_EQ(entry("KDE", "36"), "on [100, 2, 262144]");
+    EXPECT_EQ(entry("KDE", "17"), "on [61, 24, 262144]");
+    EXPECT_EQ(entry("KDE", "32"), "on [65535, 109, 1048576]");
+    EXPECT_EQ(entry("KDE", "21"), off);
+    EXPECT_EQ(entry("KDE", "64"), "on [32, 49, 524288]");
+    EXPECT_EQ(entry("KDE", "19"), "missing");
+}
+
+}  // namespace
+}  // namespace orlamo::desktops
