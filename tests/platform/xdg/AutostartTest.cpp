@@ -1,0 +1,106 @@
+#include "platform/xdg/Autostart.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "tests/doubles/FakeLog.h"
+
+namespace orlamo::xdg {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path newFolder() {
+    std::string name = fs::temp_directory_path() / "orlamo-autostart-XXXXXX";
+    return ::mkdtemp(name.data());
+}
+
+class AutostartTest : public testing::Test {
+protected:
+    ~AutostartTest() override { fs::remove_all(config); }
+
+    static std::string read(const fs::path& path) {
+        std::ifstream file(path);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    static std::string execOf(const std::string& executable) {
+        const auto text = desktopEntry({.executable = executable});
+        const auto start = text.find("\nExec=") + 6;
+        return text.substr(start, text.find('\n', start) - start);
+    }
+
+    FakeLog log;
+    const fs::path config = newFolder();
+    const std::string identifier = "app.orlamo.OrlamoHelper";
+    const fs::path file = config / "autostart" / "app.orlamo.OrlamoHelper.desktop";
+};
+
+TEST_F(AutostartTest, WritesAWholeEntryAndNothingElse) {
+    Autostart items({.executable = "/opt/or lamo/orlamo"}, config);
+    EXPECT_TRUE(items.SMLoginItemSetEnabled(identifier, true));
+    EXPECT_EQ(read(file),
+              "[Desktop Entry]\nType=Application\nName=Orlamo\nIcon=app.orlamo.Orlamo\n"
+              "Exec=\"/opt/or lamo/orlamo\"\nTerminal=false\nNoDisplay=true\nX-GNOME-Autostart-enabled=true\n");
+    EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 1);
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
+}
+
+TEST_F(AutostartTest, ReplacesWhatIsThereAndRemovesItWithoutTheOthers) {
+    Autostart items({.executable = "/usr/bin/orlamo"}, config);
+    fs::create_directories(file.parent_path());
+    std::ofstream(file) << "[Desktop Entry]\nHidden=true\n" << std::string(5000, '#');
+    std::ofstream(file.parent_path() / "other.desktop") << "x";
+    EXPECT_TRUE(items.SMLoginItemSetEnabled(identifier, true));
+    EXPECT_EQ(read(file), desktopEntry({.executable = "/usr/bin/orlamo"}));
+    EXPECT_TRUE(items.SMLoginItemSetEnabled(identifier, false));
+    EXPECT_FALSE(fs::exists(file));
+    EXPECT_TRUE(fs::exists(file.parent_path() / "other.desktop"));
+}
+
+TEST_F(AutostartTest, SucceedsAtRemovingWhatIsNotThere) {
+    Autostart items({.executable = "/usr/bin/orlamo"}, config);
+    EXPECT_TRUE(items.SMLoginItemSetEnabled(identifier, false));
+    EXPECT_FALSE(fs::exists(config / "autostart"));
+    EXPECT_TRUE(log.lines.empty());
+}
+
+TEST_F(AutostartTest, QuotesThePlaceOfTheProgram) {
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"/a b", R"("/a b")"},   {"/a\"b", R"("/a\\"b")"}, {"/a\\b", R"("/a\\\\b")"},
+        {"/a$b", R"("/a\\$b")"}, {"/a`b", R"("/a\\`b")"},  {"/100%u", R"("/100%%u")"},
+        {"/a'b", R"("/a'b")"},   {"/a\nb", R"("/a\nb")"},  {"/\xE4\xB8\xAD", "\"/\xE4\xB8\xAD\""},
+    };
+    for (const auto& [executable, exec] : cases) EXPECT_EQ(execOf(executable), exec) << executable;
+}
+
+TEST_F(AutostartTest, SaysSoWhenTheFolderCannotBeMade) {
+    std::ofstream(config / "autostart") << "a file";
+    Autostart items({.executable = "/usr/bin/orlamo"}, config);
+    EXPECT_FALSE(items.SMLoginItemSetEnabled(identifier, true));
+    ASSERT_EQ(log.lines.size(), 1U);
+    EXPECT_TRUE(log.lines[0].starts_with("Start at login: " + (config / "autostart").string())) << log.lines[0];
+}
+
+TEST_F(AutostartTest, SaysSoWhenTheEntryCannotBeReplacedAndLeavesNothingBehind) {
+    fs::create_directories(file / "in the way");
+    Autostart items({.executable = "/usr/bin/orlamo"}, config);
+    EXPECT_FALSE(items.SMLoginItemSetEnabled(identifier, true));
+    EXPECT_FALSE(items.SMLoginItemSetEnabled(identifier, false));
+    EXPECT_EQ(log.lines.size(), 2U);
+    EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 1);
+}
+
+TEST_F(AutostartTest, RefusesNamesAndPlacesThatWouldGoAstray) {
+    Autostart items({.executable = "/usr/bin/orlamo"}, config);
+    for (const auto* name : {"", ".", "..", "../x", "/etc/x"}) EXPECT_FALSE(items.SMLoginItemSetEnabled(name, true));
+    EXPECT_FALSE(Autostart({.executable = "orlamo"}, config).SMLoginItemSetEnabled(identifier, true));
+    EXPECT_FALSE(Autostart({.executable = "/usr/bin/orlamo"}, "").SMLoginItemSetEnabled(identifier, true));
+    EXPECT_EQ(log.lines.size(), 7U);
+    EXPECT_TRUE(fs::is_empty(config));
+}
+
+}  // namespace
+}  // namespace orlamo::xdg
