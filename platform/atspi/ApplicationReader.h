@@ -1,0 +1,42 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/atspi/Accelerator.h"
+#include "platform/atspi/Connection.h"
+#include "platform/atspi/MenuTree.h"
+
+namespace orlamo::atspi {
+
+/// What the reading asks of others. An empty function: the answer named beside it.
+struct Options {
+    BaseKeyOfShifted baseKeyOfShifted = baseKeyOfShiftedOnUsLayout;
+    /// An application's name for people, by process id; empty: the one it gives itself on the bus.
+    std::function<std::string(int processIdentifier)> applicationName;
+    /// Asked for at each reading; empty: the desktop has none, and the session's element has no children.
+    std::function<SessionMenu()> sessionMenu;
+    /// For one whole reading, finding the application included.
+    std::chrono::milliseconds readTime{700};
+};
+
+/// How a reading went, for measurements.
+struct ReadStatistics {
+    std::size_t calls = 0;
+    std::size_t elements = 0;
+    std::size_t elementsRead = 0;
+    bool usedCache = false;
+    std::chrono::microseconds time{0};
+};
+
+/// Reads the menus of the application with this process id. On an error the tree stays as it was; a reading that its
+/// time ended is no error once there is a menu bar: what came in by then is the tree.
+AXError readMenus(Connection& bus, int processIdentifier, const Options& options, Deadline deadline,
+                  std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics);
+
+}  // namespace orlamo::atspi

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "platform/atspi/Connection.h"
+#include "platform/atspi/NodeSource.h"
+
+namespace orlamo::atspi {
+
+/// The toolkit's cache of a program's objects; empty where the toolkit has none, when it is malformed, or after the
+/// deadline. Objects that the program has not made yet are not in it: the children of a node are known only where the
+/// cache holds as many, with the places 0, 1, 2 ..., as the node says it has.
+KnownNodes readCache(Connection& connection, const std::string& bus, Deadline deadline);
+
+}  // namespace orlamo::atspi
