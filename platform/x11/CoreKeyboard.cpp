@@ -8,6 +8,12 @@
 
 namespace orlamo::x11 {
 
+namespace {
+
+constexpr xcb_timestamp_t ownTypingMilliseconds = 500;
+
+}  // namespace
+
 CoreKeyboard::CoreKeyboard(Connection& connection)
     : connection_(connection),
       context_(xkb_context_new(XKB_CONTEXT_NO_FLAGS)),
@@ -69,16 +75,28 @@ void CoreKeyboard::received(const xcb_generic_event_t& event) {
         case XCB_XKB_MAP_NOTIFY:
             layoutIsStale_ = true;
             break;  // they come in bursts
-        case XCB_XKB_STATE_NOTIFY:
-            modifiersAre(reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event).baseMods);
+        case XCB_XKB_STATE_NOTIFY: {
+            const auto& state = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event);
+            modifiersAre(state.baseMods, state.time);
             break;
+        }
         default:
             break;
     }
 }
 
-void CoreKeyboard::modifiersAre(std::uint8_t realModifiers) {
+void CoreKeyboard::expectOwnTyping() {
+    ownTypingEnds_ = connection_.serverTime() + ownTypingMilliseconds;
+}
+
+void CoreKeyboard::modifiersAre(std::uint8_t realModifiers, xcb_timestamp_t time) {
     const std::uint64_t flags = flagsOf(realModifiers);
+    // The server's time wraps around.
+    if (ownTypingEnds_ && static_cast<std::int32_t>(time - *ownTypingEnds_) < 0) {
+        if (flags == lastFlags_) ownTypingEnds_.reset();
+        return;
+    }
+    ownTypingEnds_.reset();
     if (flags == lastFlags_) return;
     lastFlags_ = flags;
     if (listener_) listener_(flags);

@@ -37,6 +37,8 @@ public:
 
     /// Called with the new EventFlags after each change of them. One listener.
     void onModifiersChanged(std::function<void(std::uint64_t)> listener) { listener_ = std::move(listener); }
+    /// What follows is typed by this program: not told until the modifiers are again as they were, or for 500 ms.
+    void expectOwnTyping();
 
 private:
     struct ContextDeleter {
@@ -45,7 +47,7 @@ private:
     void selectEvents();
     void loadLayout();
     void received(const xcb_generic_event_t& event);
-    void modifiersAre(std::uint8_t realModifiers);
+    void modifiersAre(std::uint8_t realModifiers, xcb_timestamp_t time);
     std::uint64_t flagsOf(std::uint8_t realModifiers);
 
     Connection& connection_;
@@ -54,6 +56,7 @@ private:
     std::unique_ptr<KeyboardLayout> layout_;
     bool layoutIsStale_ = false;
     std::uint64_t lastFlags_;
+    std::optional<xcb_timestamp_t> ownTypingEnds_;
     std::function<void(std::uint64_t)> listener_;
     Connection::Subscription subscription_;
 };

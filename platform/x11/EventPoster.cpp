@@ -47,6 +47,7 @@ void EventPoster::press(const KeyboardEvent& event) {
     if (const auto* const refusal = std::get_if<Refusal>(&plan)) return refuse(event, refusal->reason);
 
     posted_ = Posted{event.keyCode, std::get<PostingPlan>(std::move(plan))};
+    if (!posted_->plan.modifiers.empty()) keyboard_.expectOwnTyping();  // no press of the trigger key
     for (const std::uint8_t modifier : posted_->plan.modifiers) fakeKey(XCB_KEY_PRESS, modifier);
     fakeKey(XCB_KEY_PRESS, posted_->plan.key);
 }

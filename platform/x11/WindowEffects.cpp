@@ -1,5 +1,6 @@
 #include "platform/x11/WindowEffects.h"
 
+#include <unistd.h>
 #include <xcb/shape.h>
 
 #include <algorithm>
@@ -110,6 +111,10 @@ void WindowEffects::createKeeper() {
     const std::uint32_t unmanaged = 1;
     xcb_create_window(connection_.xcb(), 0, keeper_, connection_.root(), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
                       XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &unmanaged);
+    // How it is known as ours where X-Resource is missing.
+    const auto process = static_cast<std::uint32_t>(::getpid());
+    xcb_change_property(connection_.xcb(), XCB_PROP_MODE_REPLACE, keeper_, connection_.atom("_NET_WM_PID"),
+                        XCB_ATOM_CARDINAL, 32, 1, &process);
 }
 
 void WindowEffects::mapped(xcb_window_t window) {

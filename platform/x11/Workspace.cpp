@@ -42,7 +42,9 @@ std::optional<xcb_window_t> Workspace::frontmostWindow() {
 }
 
 std::optional<RunningApplication> Workspace::frontmostApplication() {
-    if (memory_.isFrontmost(windows_.focusHolder())) return ownApplication();
+    const FocusHolder holder = windows_.focusHolder();
+    if (!connection_.isAlive()) return std::nullopt;
+    if (memory_.isFrontmost(holder)) return ownApplication();
     const auto window = frontmostWindow();
     if (!window) return std::nullopt;
     RunningApplication application = describe(*window);
