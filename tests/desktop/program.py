@@ -54,12 +54,12 @@ class Program:
 
     def is_ready(self):
         """It has asked for its default trigger, which it does after its monitors are in place."""
-        if self.process.poll() is not None:
-            raise Timeout("the program ended:\n" + "\n".join(self.log.lines()[-20:]))
+        self.assert_alive()
         return "doubleModifierKey" in self.settings()
 
-    def is_alive(self):
-        return self.process.poll() is None
+    def assert_alive(self):
+        if self.process.poll() is not None:
+            raise Timeout("the program ended:\n" + "\n".join(self.log.lines()[-20:]))
 
     def stop(self):
         self.session.stop(self.process)
@@ -81,6 +81,7 @@ class Program:
     # The panel.
     def panel(self):
         """The panel's window; None while there is none."""
+        self.assert_alive()
         windows = self.session.screen.windows_of(self.pid)
         return windows[-1] if windows else None
 

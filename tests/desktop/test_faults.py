@@ -63,7 +63,7 @@ class Faults(DesktopTest):
         self.session.stop(self.session.accessibility, signal.SIGKILL)
         self.assertLess(self.answer_time(), 1.5)
         self.assertIsNone(self.program.panel())
-        self.assertTrue(self.program.is_alive())
+        self.program.assert_alive()
 
 
 class PoorServer(DesktopTest):
