@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "platform/atspi/Accessibility.h"
+#include "platform/desktops/DesktopPreferences.h"
 #include "platform/plist/LibplistParser.h"
 #include "platform/qt/JsonUserDefaults.h"
 #include "platform/qt/QtApplication.h"
@@ -19,6 +20,7 @@
 #include "platform/x11/Keyboard.h"
 #include "platform/x11/WindowEffects.h"
 #include "platform/x11/Workspace.h"
+#include "platform/xdg/Autostart.h"
 #include "shell/AppDelegate.h"
 
 using namespace orlamo;
@@ -55,6 +57,10 @@ int main(int argc, char** argv) {
     const auto resources = qt::resourcesFolder(QApplication::applicationFilePath().toStdString());
     const Installed<Bundle, qt::QtBundle> bundle(resources, QLocale::system());
     const Installed<UserDefaults, qt::JsonUserDefaults> defaults(qt::settingsPath());
+
+    const Installed<SystemPreferences, desktops::DesktopPreferences> preferences;
+    const Installed<LoginItems, xdg::Autostart> loginItems(
+        xdg::StartedProgram{.executable = QApplication::applicationFilePath().toStdString()});
 
     std::string error;
     const auto connection = x11::Connection::open(error);
