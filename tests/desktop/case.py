@@ -24,7 +24,7 @@ class DesktopTest(unittest.TestCase):
         self.session = self.enterContext(DesktopSession(**self.session_arguments))
         self.addCleanup(self._keep_evidence)
         self.screen = self.session.screen
-        self.screen.paint_root(200, 40, 120)
+        self.screen.cover_root(200, 40, 120)
 
     def start_program(self, **arguments):
         arguments.setdefault("settings", self.settings)

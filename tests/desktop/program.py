@@ -135,17 +135,21 @@ class Program:
         """Moves the pointer over the panel until the log names that cell; returns the pointer's position."""
         since = self.log.mark()
         x, y, width, height = self.panel_area()
-        for row in range(y + 4, y + height, 12):
-            for column in range(x + 60, x + width, 60):
-                before = self.log.mark()
-                self.session.screen.move_pointer(column, row)
-                self.log.wait_for("Mouse Position: ", before, 2)
-                if any(self._names(line, title) for line in self.log.lines(before)):
+        for column in range(x + 60, x + width, 90):
+            for row in range(y + 40, y + height, 12):
+                if self._title_at(column, row) == title:
                     return column, row
         seen = {match[1] for match in map(CELL.search, self.log.lines(since)) if match}
         raise Timeout(f"no cell {title!r} under the pointer; seen: {sorted(seen)}")
 
-    @staticmethod
-    def _names(line, title):
-        match = CELL.search(line)
-        return match and match[1] == title
+    def _title_at(self, x, y):
+        """The title of the cell there, as the log names it; None between the cells and beside the list."""
+        since = self.log.mark()
+        self.session.screen.move_pointer(x, y)
+        try:
+            self.log.wait_for("Mouse Position: ", since, 0.5)
+        except Timeout:
+            return None
+        self.log.wait_for("开始绘制", since)
+        match = next(filter(None, map(CELL.search, self.log.lines(since))), None)
+        return match and match[1]

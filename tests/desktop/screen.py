@@ -155,10 +155,12 @@ class Screen:
     def pixel(self, x, y):
         return self.picture((x, y, 1, 1)).getpixel((0, 0))
 
-    def paint_root(self, red, green, blue):
-        """One colour behind all windows, so that a test knows what a clear corner shows."""
-        self.root.change_attributes(background_pixel=red << 16 | green << 8 | blue)
-        self.root.clear_area(0, 0, 0, 0)
+    def cover_root(self, red, green, blue):
+        """A window of one colour below all others, so that a test knows what a clear corner shows."""
+        back = self.root.create_window(0, 0, self.width, self.height, 0, X.CopyFromParent, override_redirect=True,
+                                       background_pixel=red << 16 | green << 8 | blue)
+        back.map()
+        back.configure(stack_mode=X.Below)
         self.display.sync()
 
 

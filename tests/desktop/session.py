@@ -28,12 +28,13 @@ KEY = '<keybind key="{key}"><action name="Execute"><command>{command}</command><
 class DesktopSession:
     """Starts in __enter__, ends everything it started in __exit__, and nothing else."""
 
-    def __init__(self, size="1440x900x24", keys=None, server=()):
+    def __init__(self, size="1440x900x24", keys=None, server=(), desktop_settings=""):
         """`keys` maps a key in the window manager's own words ("W-d") to the shell command it runs; `server` holds
-        further words of the X server's command line."""
+        further words of the X server's command line; `desktop_settings` is what GSettings finds, as a key file."""
         self._size = size
         self._keys = keys or {}
         self._server = server
+        self._desktop_settings = desktop_settings
         self._started = []
         self.screen = self.session_bus = self.accessibility_bus = None
 
@@ -67,6 +68,9 @@ class DesktopSession:
             folder.mkdir(mode=0o700)
             self.environment[name] = str(folder)
         self.config = self.folder / "config"
+        settings = self.config / "glib-2.0/settings"
+        settings.mkdir(parents=True)
+        (settings / "keyfile").write_text(self._desktop_settings)
 
     def _start_server(self):
         reading, writing = os.pipe()

@@ -43,13 +43,10 @@ class ApplicationCells(DesktopTest):
 
 
 class SystemCells(DesktopTest):
-    session_arguments = {"keys": {"W-d": "touch desktop-shown"}}
+    session_arguments = {"keys": {"W-d": "touch desktop-shown"}, "desktop_settings": SHOW_DESKTOP}
     program_environment = {"XDG_CURRENT_DESKTOP": "GNOME"}
 
     def test_a_click_on_a_system_cell_makes_the_desktop_do_it(self):
-        keyfile = self.session.config / "glib-2.0/settings/keyfile"
-        keyfile.parent.mkdir(parents=True)
-        keyfile.write_text(SHOW_DESKTOP)
         self.start_program()
         self.session.open_editor("mousepad")
         self.program.open_panel()
