@@ -15,7 +15,7 @@ test: ## build everything and run all tests
 	@scripts/setup build run demo test
 	@cmake --preset release
 	@cmake --build --preset release
-	@ctest --preset release
+	@ctest --preset release -j $$(nproc)
 
 bench: ## run the measurements of docs/performance.md
 	@scripts/setup build run demo test bench
