@@ -33,6 +33,8 @@ struct Path {
     static Path roundedRect(Rect rect, double radius);
 };
 
+class View;
+
 /// What a view draws on. Coordinates are those of the view whose drawRect runs.
 class GraphicsContext {
 public:
@@ -46,6 +48,10 @@ public:
     /// Moves the origin for what is drawn until the matching popOrigin: how a superview places a subview.
     virtual void pushOrigin(Point origin) = 0;
     virtual void popOrigin() = 0;
+
+    /// As pushOrigin with the origin of the subview's frame. A context that keeps what is drawn can ask the view for
+    /// that origin once the pass is over: a view may move itself while it draws.
+    virtual void pushView(const View& view);
 };
 
 }  // namespace orlamo

@@ -39,7 +39,7 @@ void View::display(GraphicsContext& context) {
     needsDisplay_ = false;
     drawRect(context, bounds());
     for (const auto& view : subviews_) {
-        context.pushOrigin({view->frame_.x, view->frame_.y});
+        context.pushView(*view);
         view->display(context);
         context.popOrigin();
     }
@@ -63,6 +63,10 @@ View* View::hitTest(Point point) {
         if (View* const hit = (*view)->hitTest(own)) return hit;
     }
     return hearsPressAt(own) ? this : nullptr;
+}
+
+void GraphicsContext::pushView(const View& view) {
+    pushOrigin({view.frame().x, view.frame().y});
 }
 
 void View::drawRect(GraphicsContext&, const Rect&) {}

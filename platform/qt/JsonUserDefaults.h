@@ -1,0 +1,45 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "platform/UserDefaults.h"
+#include "platform/qt/SettingsFile.h"
+#include "platform/qt/SettingsJson.h"
+
+namespace orlamo::qt {
+
+/// orlamo/settings.json in the user's configuration folder.
+std::filesystem::path settingsPath();
+
+/// Settings in one JSON file, see SettingsJson and SettingsFile. A damaged file reads as empty and is kept aside before
+/// it is replaced.
+class JsonUserDefaults final : public UserDefaults {
+public:
+    explicit JsonUserDefaults(std::filesystem::path path) : file_(std::move(path)) {}
+
+    Value objectForKey(std::string_view key) override;
+    void setObject(std::string_view key, Value value) override;
+    void removeObject(std::string_view key) override;
+    bool synchronize() override;
+
+private:
+    struct Parsed {
+        SettingsJson settings;
+        bool isDamaged = false;
+    };
+
+    Parsed parse(const SettingsFile::Content& content);
+    void refresh();
+    bool flush();
+    void complain(const std::string& error);
+
+    SettingsFile file_;
+    bool wasRead_ = false;
+    SettingsJson stored_;
+    std::map<std::string, Value, std::less<>> unsaved_;  // set here and not on the disk yet
+    std::string lastComplaint_;
+    bool mustWrite_ = false;  // the last write failed, perhaps after the file was replaced
+};
+
+}  // namespace orlamo::qt

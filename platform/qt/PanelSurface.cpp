@@ -1,0 +1,96 @@
+#include "platform/qt/PanelSurface.h"
+
+#include <xcb/xcb.h>
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMetaObject>
+#include <QMouseEvent>
+#include <QSurfaceFormat>
+#include <cstdlib>
+
+namespace orlamo::qt {
+
+PanelSurface::PanelSurface(Listener& listener, Look look, Stacking stacking)
+    : listener_(&listener), store_(this), pointerWhenShown_(QCursor::pos()) {
+    setSurfaceType(QSurface::RasterSurface);
+    Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint;
+    if (stacking == Stacking::aboveAll) flags |= Qt::WindowStaysOnTopHint;
+    setFlags(flags);
+    setTitle(QCoreApplication::applicationName());
+    QSurfaceFormat wanted = format();
+    wanted.setAlphaBufferSize(look == Look::translucent ? 8 : 0);
+    setFormat(wanted);
+}
+
+void PanelSurface::retire() {
+    listener_ = nullptr;
+    hide();
+    deleteLater();
+}
+
+void PanelSurface::show(const std::function<void(QImage&)>& paint) {
+    const QRegion all(QRect(QPoint(), size()));
+    if (store_.size() != size()) store_.resize(size());
+    store_.beginPaint(all);
+    QPaintDevice* const device = store_.paintDevice();
+    if (device != nullptr && device->devType() == QInternal::Image) {
+        auto& image = *static_cast<QImage*>(device);
+        // The same pixels, addressed as such.
+        QImage pixels(image.bits(), image.width(), image.height(), image.bytesPerLine(), image.format());
+        paint(pixels);
+    }
+    store_.endPaint();
+    store_.flush(all);
+}
+
+void PanelSurface::showAgain() {
+    if (store_.size() == size()) store_.flush(QRegion(QRect(QPoint(), size())));
+}
+
+void PanelSurface::callBack() {
+    const auto call = [this] {
+        if (listener_ != nullptr) listener_->calledBack();
+    };
+    QMetaObject::invokeMethod(this, call, Qt::QueuedConnection);
+}
+
+void PanelSurface::synchronize() {
+    auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (x11 == nullptr) return;
+    xcb_connection_t* const connection = x11->connection();
+    std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+}
+
+void PanelSurface::pointerEntered(const QEnterEvent& event) {
+    // A window that comes up under a resting pointer is entered too; the pointer did nothing.
+    if (event.globalPosition().toPoint() != pointerWhenShown_) listener_->pointerMoved(event.position());
+}
+
+bool PanelSurface::event(QEvent* event) {
+    if (listener_ == nullptr) return QWindow::event(event);
+    switch (event->type()) {
+        case QEvent::Expose:
+            if (isExposed()) listener_->exposed();
+            return true;
+        case QEvent::Enter:
+            pointerEntered(*static_cast<QEnterEvent*>(event));
+            return true;
+        case QEvent::Leave:
+            listener_->pointerLeft();
+            return true;
+        case QEvent::MouseMove:
+            listener_->pointerMoved(static_cast<QMouseEvent*>(event)->position());
+            return true;
+        case QEvent::MouseButtonPress: {
+            const auto& press = *static_cast<QMouseEvent*>(event);
+            if (press.button() == Qt::LeftButton) listener_->pointerPressed(press.position());
+            return true;
+        }
+        default:
+            return QWindow::event(event);
+    }
+}
+
+}  // namespace orlamo::qt

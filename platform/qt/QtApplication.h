@@ -1,0 +1,25 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/Application.h"
+#include "platform/WindowEffects.h"
+
+namespace orlamo::qt {
+
+/// Knows which of the program's windows are on screen, and gives the frontmost one the input focus when asked.
+class QtApplication final : public Application {
+public:
+    void activate(IgnoringOtherApps ignoring) override;
+
+    // For the windows' hosts.
+    /// The window is viewable and in front of the others.
+    void windowCameToFront(NativeWindow window);
+    void windowWentAway(NativeWindow window);
+
+private:
+    std::vector<NativeWindow> visible_;  // frontmost last
+    bool activationWaits_ = false;       // for the next window to come to the front
+};
+
+}  // namespace orlamo::qt

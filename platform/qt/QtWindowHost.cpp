@@ -1,0 +1,224 @@
+#include "platform/qt/QtWindowHost.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Log.h"
+#include "platform/VisualEffectView.h"
+#include "platform/qt/Backdrop.h"
+#include "platform/qt/QtApplication.h"
+#include "platform/qt/Replay.h"
+#include "platform/qt/ScreenSpace.h"
+#include "platform/qt/TextCache.h"
+
+namespace orlamo::qt {
+
+namespace {
+
+// The window system ends at 32767 pixels, and a picture of that size costs more memory than the panel is worth.
+constexpr double largestNativePixels = 8192;
+
+const VisualEffectView* effectView(const Window& window) {
+    return dynamic_cast<const VisualEffectView*>(window.contentView());
+}
+
+QRect mainScreenRect() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? screen->geometry() : QRect();
+}
+
+QRect desktopRect() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? screen->virtualGeometry() : QRect();
+}
+
+QRect toQRect(const PixelRect& r) {
+    return {r.x, r.y, r.width, r.height};
+}
+
+}  // namespace
+
+QtWindowHost::QtWindowHost(Window& window, TextCache& texts, QtApplication& application)
+    : window_(window), texts_(texts), application_(application) {}
+
+QtWindowHost::~QtWindowHost() {
+    orderOut();
+}
+
+void QtWindowHost::frameChanged(const Rect&) {
+    if (!inPass_) scheduleUpdate();
+}
+
+void QtWindowHost::setNeedsDisplay() {
+    scheduleUpdate();
+}
+
+void QtWindowHost::scheduleUpdate() {
+    if (surface_ == nullptr || updateIsDue_) return;
+    updateIsDue_ = true;
+    surface_->callBack();
+}
+
+void QtWindowHost::runPass() {
+    inPass_ = true;
+    list_.clear();
+    window_.display(list_);
+    list_.finish();
+    inPass_ = false;
+}
+
+void QtWindowHost::orderFront() {
+    if (surface_ != nullptr) {
+        surface_->raise();
+        application_.windowCameToFront(surface_->winId());
+        return;
+    }
+    runPass();
+    isComposited_ = WindowEffects::isInstalled() && WindowEffects::shared().isComposited();
+    capture_.clear();
+    surface_.reset(new PanelSurface(
+        *this, isComposited_ ? PanelSurface::Look::translucent : PanelSurface::Look::opaque,
+        window_.level > Window::normalLevel ? PanelSurface::Stacking::aboveAll : PanelSurface::Stacking::normal));
+    updateIsDue_ = false;
+    place();
+    surface_->create();
+    scale_ = surface_->devicePixelRatio();
+    makeBackdrop();
+    // The picture follows the map in the same stream of requests: the window is never seen without it.
+    surface_->setVisible(true);
+    paint();
+    PanelSurface::synchronize();
+    application_.windowCameToFront(surface_->winId());
+    if (window_.needsDisplay()) scheduleUpdate();
+}
+
+void QtWindowHost::orderOut() {
+    if (surface_ == nullptr) return;
+    application_.windowWentAway(surface_->winId());
+    surface_.reset();
+    backdrop_ = {};
+    capture_.clear();
+}
+
+void QtWindowHost::calledBack() {
+    updateIsDue_ = false;
+    const bool drawn = window_.needsDisplay();
+    if (drawn) runPass();
+    const bool resized = place();
+    if (resized) makeBackdrop();
+    if (drawn || resized) paint();
+    if (window_.needsDisplay()) scheduleUpdate();
+}
+
+// Moves and sizes the native window as the frame says. True when its picture has another size than before.
+bool QtWindowHost::place() {
+    whole_ = toQt(window_.frame(), mainScreenRect());
+    QRect native = whole_;
+    const double scale = surface_->devicePixelRatio();
+    if (std::max(whole_.width(), whole_.height()) * scale > largestNativePixels) {
+        native = whole_.intersected(desktopRect());
+        if (native.isEmpty()) native = QRect(whole_.topLeft(), QSize(1, 1));
+        logLine("window: " + std::to_string(whole_.width()) + " by " + std::to_string(whole_.height()) +
+                " points are more than can be shown; only what lies on the screen is");
+    }
+    const QPoint cut = native.topLeft() - whole_.topLeft();
+    const bool resized = native.size() != surface_->size() || cut != cut_;
+    cut_ = cut;
+    if (native != surface_->geometry()) surface_->setGeometry(native);
+    return resized;
+}
+
+PixelRect QtWindowHost::nativePixels() const {
+    return toDevicePixels(surface_->geometry(), *surface_->screen());
+}
+
+void QtWindowHost::makeBackdrop() {
+    const VisualEffectView* const view = effectView(window_);
+    const PixelRect native = nativePixels();
+    if (view == nullptr) {
+        backdrop_ = {};
+        return;
+    }
+    BackdropStyle style;
+    style.material = view->material;
+    style.size = QSize(native.width, native.height);
+    style.scale = scale_;
+    style.panel = QRectF(-cut_.x() * scale_, -cut_.y() * scale_, std::round(whole_.width() * scale_),
+                         std::round(whole_.height() * scale_));
+    if (view->maskImage) {
+        style.cornerRadius = view->maskImage->cornerRadius * scale_;
+        style.opacity = view->maskImage->color.alpha;
+    }
+
+    const bool isCut = !cut_.isNull() || whole_.size() != surface_->size();
+    const int radius = isCut ? 0 : static_cast<int>(std::lround(style.cornerRadius));
+    const bool blurs = view->material == VisualEffectView::Material::fullScreenUI;
+    if (isComposited_) {
+        const bool compositorBlurs = blurs && WindowEffects::shared().canBlurBehind();
+        style.behind = compositorBlurs ? BackdropStyle::Behind::blurred : BackdropStyle::Behind::blended;
+        if (compositorBlurs) {
+            WindowEffects::shared().blurBehind(surface_->winId(), native.width, native.height, radius);
+        }
+    } else if (WindowEffects::isInstalled() && radius > 0) {
+        WindowEffects::shared().shapeRounded(surface_->winId(), native.width, native.height, radius);
+    }
+
+    const bool needsScreen = !isComposited_ || (blurs && style.behind != BackdropStyle::Behind::blurred);
+    const QRect desktop = toQRect(toDevicePixels(desktopRect(), *surface_->screen()));
+    const QRect visible = toQRect(native).intersected(desktop);
+    QImage screen;
+    if (needsScreen && !visible.isEmpty()) {
+        screen = capture_.behind({visible.x(), visible.y(), visible.width(), visible.height()});
+    }
+    backdrop_ = orlamo::qt::makeBackdrop(style, screen, visible.topLeft() - QPoint(native.x, native.y));
+}
+
+void QtWindowHost::paint() {
+    surface_->show([this](QImage& picture) {
+        QPainter painter(&picture);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        if (!backdrop_.isNull()) {
+            painter.drawImage(0, 0, backdrop_);
+        } else {
+            const Color& color = window_.backgroundColor;
+            painter.fillRect(picture.rect(), QColor::fromRgbF(color.red, color.green, color.blue, color.alpha));
+        }
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        painter.scale(scale_, scale_);
+        painter.translate(-cut_);
+        replay(list_, painter, window_.frame().height, scale_, texts_);
+    });
+}
+
+void QtWindowHost::exposed() {
+    if (surface_->devicePixelRatio() == scale_) {
+        surface_->showAgain();
+        return;
+    }
+    scale_ = surface_->devicePixelRatio();
+    place();
+    makeBackdrop();
+    paint();
+}
+
+// Qt names a pixel by its upper left corner, the window's coordinates by the lower left one.
+Point QtWindowHost::toWindow(QPointF position) const {
+    return {position.x() + cut_.x(), window_.frame().height - (position.y() + cut_.y()) - 1 / scale_};
+}
+
+void QtWindowHost::pointerMoved(QPointF position) {
+    window_.pointerMoved(toWindow(position));
+}
+
+void QtWindowHost::pointerLeft() {
+    window_.pointerLeft();
+}
+
+void QtWindowHost::pointerPressed(QPointF position) {
+    window_.pointerPressed(toWindow(position));
+}
+
+}  // namespace orlamo::qt

@@ -1,0 +1,95 @@
+#include "platform/qt/TextCache.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QTextLayout>
+#include <QTextOption>
+#include <algorithm>
+#include <utility>
+
+#include "platform/Log.h"
+
+namespace orlamo::qt {
+
+namespace {
+
+constexpr std::size_t generationTexts = 16'384;
+constexpr std::size_t generationBytes = 1U << 20;
+constexpr int largestPixelSize = 512;
+
+// The heading of the session's own menu is this private character, which fonts have no business to define: shown as a
+// mark that fonts do have.
+constexpr char16_t sessionHeading = 0xF8FF;
+constexpr char16_t sessionMark = 0x25C9;  // fisheye
+
+QString printable(std::string_view text) {
+    QString result = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    for (QChar& c : result) {
+        const char16_t unit = c.unicode();
+        if (unit == sessionHeading) {
+            c = QChar(sessionMark);
+        } else if (unit < 0x20 || (unit >= 0x7F && unit < 0xA0) || unit == 0x2028 || unit == 0x2029) {
+            c = QChar(u' ');
+        }
+    }
+    return result;
+}
+
+SetText set(std::string_view text, const QFont& font) {
+    QTextLayout layout(printable(text), font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    option.setTextDirection(Qt::LeftToRight);
+    layout.setTextOption(option);
+    layout.setCacheEnabled(true);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    if (!line.isValid()) return {};
+    return {layout.glyphRuns(), line.horizontalAdvance(), line.ascent()};
+}
+
+}  // namespace
+
+TextCache::TextCache() : systemFont_(QFontDatabase::systemFont(QFontDatabase::GeneralFont).families()) {
+    systemFont_.setWeight(QFont::Normal);
+    if (QFontDatabase::families().isEmpty()) {
+        logLine("text: no fonts are installed; the panel cannot show readable texts (install fonts-dejavu-core)");
+    }
+}
+
+const TextCache::Face& TextCache::face(int pixelSize) {
+    const int size = std::clamp(pixelSize, 1, largestPixelSize);
+    const auto found = faces_.find(size);
+    if (found != faces_.end()) return found->second;
+    QFont font = systemFont_;
+    font.setPixelSize(size);
+    const QFontMetricsF metrics(font);
+    return faces_.emplace(size, Face{font, {metrics.ascent(), metrics.descent()}}).first->second;
+}
+
+LineBox TextCache::lineBox(int pixelSize) {
+    return face(pixelSize).box;
+}
+
+const SetText& TextCache::setText(std::string_view text, int pixelSize) {
+    const KeyView key{pixelSize, text};
+    if (const auto found = younger_.find(key); found != younger_.end()) return found->second;
+    if (const auto found = older_.find(key); found != older_.end()) {
+        auto node = older_.extract(found);
+        return insert(std::move(node.key()), std::move(node.mapped()));
+    }
+    return insert({pixelSize, std::string(text)}, set(text, face(pixelSize).font));
+}
+
+SetText& TextCache::insert(Key key, SetText text) {
+    if (younger_.size() >= generationTexts || youngerBytes_ >= generationBytes) {
+        older_ = std::exchange(younger_, {});
+        youngerBytes_ = 0;
+    }
+    youngerBytes_ += key.text.size();
+    return younger_.insert_or_assign(std::move(key), std::move(text)).first->second;
+}
+
+}  // namespace orlamo::qt
