@@ -21,43 +21,80 @@ QColor toQColor(const Color& color) {
                             static_cast<float>(color.blue), static_cast<float>(color.alpha));
 }
 
-// What fills the panel, opaque unless the compositor blurs behind it.
-QBrush material(const BackdropStyle& style, const QImage& screen, QPoint screenCorner) {
+// What fills the panel, in one colour or from the screen.
+QColor plainMaterial(const BackdropStyle& style) {
     if (style.material == VisualEffectView::Material::sheet) return toQColor(plain);
-    if (style.behind == BackdropStyle::Behind::blurred) return toQColor(tint);
-    const QColor unlit = toQColor({tint.red, tint.green, tint.blue, 1});
-    if (screen.isNull()) return unlit;
-    const int shrink = std::max(2, static_cast<int>(std::lround(shrinkPoints * style.scale)));
-    const QImage small = blurredThroughTint(screen, shrink, tint);
-    QImage full(style.size, QImage::Format_RGB32);
-    full.fill(unlit);
-    QPainter painter(&full);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setClipRect(QRect(screenCorner, screen.size()));
-    painter.drawImage(QRect(screenCorner, small.size() * shrink), small);
-    return full;
+    const bool isBlurred = style.behind == BackdropStyle::Behind::blurred;
+    return toQColor({tint.red, tint.green, tint.blue, isBlurred ? tint.alpha : 1});
+}
+
+bool showsScreen(const BackdropStyle& style, const QImage& screen) {
+    return style.material == VisualEffectView::Material::fullScreenUI &&
+           style.behind != BackdropStyle::Behind::blurred && !screen.isNull();
+}
+
+QImage material(const BackdropStyle& style, const QImage& screen, QPoint screenCorner) {
+    QImage picture;
+    if (showsScreen(style, screen)) {
+        const int shrink = std::max(2, static_cast<int>(std::lround(shrinkPoints * style.scale)));
+        picture = blurredThroughTint(screen, shrink, tint);
+    }
+    if (picture.size() == style.size) return picture;
+    QImage whole(style.size, QImage::Format_ARGB32_Premultiplied);
+    whole.fill(plainMaterial(style));
+    if (!picture.isNull()) QPainter(&whole).drawImage(screenCorner, picture);
+    return whole;
+}
+
+// Takes away what of `corner` lies outside the panel, and puts what lies behind it there.
+void cutCorner(QImage& picture, QRect corner, const BackdropStyle& style, const QImage& screen, QPoint screenCorner) {
+    corner = corner.intersected(picture.rect());
+    if (corner.isEmpty()) return;
+    QImage cut(corner.size(), QImage::Format_ARGB32_Premultiplied);
+    cut.fill(Qt::transparent);
+    QPainter painter(&cut);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-corner.topLeft());
+    QPainterPath outline;
+    outline.addRoundedRect(style.panel, style.cornerRadius, style.cornerRadius);
+    painter.fillPath(outline, Qt::black);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.drawImage(corner.topLeft(), picture, corner);
+    if (style.behind == BackdropStyle::Behind::covered) {
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+        if (!screen.isNull()) painter.drawImage(screenCorner, screen);
+        painter.fillRect(corner, Qt::black);
+    }
+    painter.end();
+    QPainter onto(&picture);
+    onto.setCompositionMode(QPainter::CompositionMode_Source);
+    onto.drawImage(corner.topLeft(), cut);
 }
 
 }  // namespace
 
 QImage makeBackdrop(const BackdropStyle& style, const QImage& screen, QPoint screenCorner) {
-    const bool covered = style.behind == BackdropStyle::Behind::covered;
-    QImage picture(style.size, covered ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-    picture.fill(covered ? Qt::black : Qt::transparent);
-    QPainter painter(&picture);
-    if (covered && !screen.isNull()) painter.drawImage(screenCorner, screen);
+    QImage picture = material(style, screen, screenCorner);
+    // The same 32 bits; what was opaque stays so.
+    picture.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
 
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(style.opacity);
-    QPainterPath outline;
-    outline.addRoundedRect(style.panel, style.cornerRadius, style.cornerRadius);
-    painter.fillPath(outline, material(style, screen, screenCorner));
+    const QRect panel = style.panel.toAlignedRect();
+    const int reach = static_cast<int>(std::ceil(style.cornerRadius));
+    const QSize corner(reach, reach);
+    for (const QPoint at : {panel.topLeft(), QPoint(panel.right() + 1 - reach, panel.top()),
+                            QPoint(panel.left(), panel.bottom() + 1 - reach),
+                            QPoint(panel.right() + 1 - reach, panel.bottom() + 1 - reach)}) {
+        cutCorner(picture, QRect(at, corner), style, screen, screenCorner);
+    }
 
     // A hairline lifts the panel off a background that is as dark as itself.
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(255, 255, 255, 26), 1));
     const double radius = std::max(0.0, style.cornerRadius - 0.5);
     painter.drawRoundedRect(style.panel.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.end();
+    if (style.behind == BackdropStyle::Behind::covered) picture.reinterpretAsFormat(QImage::Format_RGB32);
     return picture;
 }
 

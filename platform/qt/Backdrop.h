@@ -21,7 +21,6 @@ struct BackdropStyle {
     QRectF panel;      // the whole panel; a part of it may lie outside the picture
     double scale = 1;  // device pixels in a point
     double cornerRadius = 0;
-    double opacity = 1;  // of the panel's mask
 };
 
 /// Dark enough that white text on it, and on a bar of white at a tenth over it, has a contrast of 7:1 whatever lies

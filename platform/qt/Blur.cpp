@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -83,6 +82,62 @@ void boxBlur(Picture& picture, int radius) {
     }
 }
 
+// Between two pixels, `part` 256ths of the way. Red and blue are reckoned in one number.
+QRgb between(QRgb a, QRgb b, unsigned part) {
+    const unsigned rest = 256 - part;
+    const unsigned redBlue = ((a & 0xFF00FFU) * rest + (b & 0xFF00FFU) * part) >> 8;
+    const unsigned green = ((a & 0x00FF00U) * rest + (b & 0x00FF00U) * part) >> 8;
+    return 0xFF000000U | (redBlue & 0xFF00FFU) | (green & 0x00FF00U);
+}
+
+// Where the pixels of the large picture lie between the small one's, whose pixels stand in the middle of their squares.
+struct Step {
+    int first;
+    int second;
+    unsigned part;
+};
+
+Step stepAt(int position, int shrink, int count) {
+    const int doubled = 2 * position + 1 - shrink;  // from the first small pixel's middle, in half pixels
+    const int before = doubled < 0 ? -1 : doubled / (2 * shrink);
+    const int offset = doubled - before * 2 * shrink;
+    return {std::clamp(before, 0, count - 1), std::clamp(before + 1, 0, count - 1),
+            static_cast<unsigned>(offset * 256 / (2 * shrink))};
+}
+
+QImage enlarged(const std::vector<QRgb>& small, int smallWidth, int smallHeight, int shrink, QSize size) {
+    QImage large(size, QImage::Format_RGB32);
+    std::vector<Step> steps;
+    for (int x = 0; x < size.width(); ++x) steps.push_back(stepAt(x, shrink, smallWidth));
+    std::vector<QRgb> row(static_cast<std::size_t>(smallWidth));
+    for (int y = 0; y < size.height(); ++y) {
+        const Step down = stepAt(y, shrink, smallHeight);
+        const QRgb* const upper = small.data() + static_cast<std::ptrdiff_t>(down.first) * smallWidth;
+        const QRgb* const lower = small.data() + static_cast<std::ptrdiff_t>(down.second) * smallWidth;
+        for (int x = 0; x < smallWidth; ++x) row[static_cast<std::size_t>(x)] = between(upper[x], lower[x], down.part);
+        auto* out = reinterpret_cast<QRgb*>(large.scanLine(y));
+        for (const Step& step : steps) {
+            *out++ = between(row[static_cast<std::size_t>(step.first)], row[static_cast<std::size_t>(step.second)],
+                             step.part);
+        }
+    }
+    return large;
+}
+
+std::vector<QRgb> throughTint(const Picture& picture, const Color& tint) {
+    const auto part = static_cast<float>(1 - tint.alpha);
+    const Pixel cover{static_cast<float>(tint.red * 255 * tint.alpha),
+                      static_cast<float>(tint.green * 255 * tint.alpha),
+                      static_cast<float>(tint.blue * 255 * tint.alpha)};
+    std::vector<QRgb> result;
+    result.reserve(picture.pixels.size());
+    for (const Pixel& pixel : picture.pixels) {
+        const auto channel = [&](std::size_t c) { return static_cast<int>(pixel[c] * part + cover[c] + 0.5F); };
+        result.push_back(qRgb(channel(0), channel(1), channel(2)));
+    }
+    return result;
+}
+
 }  // namespace
 
 QImage blurredThroughTint(const QImage& picture, int shrink, const Color& tint) {
@@ -91,23 +146,7 @@ QImage blurredThroughTint(const QImage& picture, int shrink, const Color& tint) 
     constexpr int passes = 3;  // three boxes come close to a bell curve
     Picture small = shrunk(picture, shrink);
     for (int pass = 0; pass < passes; ++pass) boxBlur(small, radius);
-
-    const auto alpha = static_cast<float>(tint.alpha);
-    const std::array<float, 3> cover{static_cast<float>(tint.red * 255 * tint.alpha),
-                                     static_cast<float>(tint.green * 255 * tint.alpha),
-                                     static_cast<float>(tint.blue * 255 * tint.alpha)};
-    QImage result(small.width, small.height, QImage::Format_RGB32);
-    const Pixel* pixel = small.pixels.data();
-    for (int y = 0; y < small.height; ++y) {
-        auto* const line = reinterpret_cast<QRgb*>(result.scanLine(y));
-        for (int x = 0; x < small.width; ++x, ++pixel) {
-            const auto channel = [&](std::size_t c) {
-                return static_cast<int>(std::lround((*pixel)[c] * (1 - alpha) + cover[c]));
-            };
-            line[x] = qRgb(channel(0), channel(1), channel(2));
-        }
-    }
-    return result;
+    return enlarged(throughTint(small, tint), small.width, small.height, shrink, picture.size());
 }
 
 }  // namespace orlamo::qt

@@ -6,9 +6,8 @@
 
 namespace orlamo::qt {
 
-/// The picture blurred strongly and shown through `tint`, at one `shrink`th of its size (rounded up): to be scaled up
-/// by exactly `shrink`. A point spreads over about 7 `shrink` pixels. Edges count as going on outward.
-/// `picture` is 32 bits a pixel; its alpha is not looked at.
+/// The picture blurred strongly and shown through `tint`, in its own size. A point spreads over about 7 `shrink`
+/// pixels; edges count as going on outward. 32 bits a pixel; alpha is not looked at, and opaque in the result.
 QImage blurredThroughTint(const QImage& picture, int shrink, const Color& tint);
 
 }  // namespace orlamo::qt

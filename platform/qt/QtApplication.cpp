@@ -24,6 +24,7 @@ void QtApplication::windowCameToFront(NativeWindow window) {
 }
 
 void QtApplication::windowWentAway(NativeWindow window) {
+    if (WindowEffects::isInstalled()) WindowEffects::shared().keepFocus(window);
     std::erase(visible_, window);
 }
 

@@ -15,6 +15,7 @@ public:
     // For the windows' hosts.
     /// The window is viewable and in front of the others.
     void windowCameToFront(NativeWindow window);
+    /// It is about to leave the screen; the focus it has stays with the program until somebody takes or returns it.
     void windowWentAway(NativeWindow window);
 
 private:

@@ -148,10 +148,7 @@ void QtWindowHost::makeBackdrop() {
     style.scale = scale_;
     style.panel = QRectF(-cut_.x() * scale_, -cut_.y() * scale_, std::round(whole_.width() * scale_),
                          std::round(whole_.height() * scale_));
-    if (view->maskImage) {
-        style.cornerRadius = view->maskImage->cornerRadius * scale_;
-        style.opacity = view->maskImage->color.alpha;
-    }
+    if (view->maskImage) style.cornerRadius = view->maskImage->cornerRadius * scale_;
 
     const bool isCut = !cut_.isNull() || whole_.size() != surface_->size();
     const int radius = isCut ? 0 : static_cast<int>(std::lround(style.cornerRadius));
