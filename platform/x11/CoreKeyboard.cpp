@@ -29,7 +29,7 @@ CoreKeyboard::CoreKeyboard(Connection& connection)
     }
     selectEvents();
     loadLayout();
-    lastFlags_ = modifierFlags();
+    lastFlags_ = askModifierFlags();
     subscription_ = connection_.subscribe([this](const xcb_generic_event_t& event) { received(event); });
 }
 
@@ -107,7 +107,7 @@ std::uint64_t CoreKeyboard::flagsOf(std::uint8_t realModifiers) {
     return flags != 0 ? flags : EventFlags::noneHeld;
 }
 
-std::uint64_t CoreKeyboard::modifierFlags() {
+std::uint64_t CoreKeyboard::askModifierFlags() {
     if (!isAvailable()) return EventFlags::noneHeld;
     const auto state =
         connection_.reply(xcb_xkb_get_state_reply, xcb_xkb_get_state(connection_.xcb(), XCB_XKB_ID_USE_CORE_KBD));

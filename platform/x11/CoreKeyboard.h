@@ -25,7 +25,8 @@ public:
     const KeyboardLayout& layout();
 
     /// The modifiers held now as EventFlags; locks and AltGr are none. EventFlags::noneHeld when none is.
-    std::uint64_t modifierFlags();
+    /// As of the latest change that was received: a drawing pass asks once per cell, too often for a round trip.
+    std::uint64_t modifierFlags() const { return lastFlags_; }
     /// With the keys that are down. None when the server does not answer.
     std::optional<HeldKeys> heldKeys();
     /// The group in use, from 0.
@@ -44,6 +45,7 @@ private:
     struct ContextDeleter {
         void operator()(xkb_context* context) const { xkb_context_unref(context); }
     };
+    std::uint64_t askModifierFlags();
     void selectEvents();
     void loadLayout();
     void received(const xcb_generic_event_t& event);
