@@ -16,12 +16,22 @@ std::string joined(char open, char close, const Entries& entries, Write write) {
     return text + close;
 }
 
+// In quotes, with those and backslashes escaped, so that the text can be read back.
+std::string quoted(std::string_view text) {
+    std::string result(1, '"');
+    for (const char c : text) {
+        if (c == '"' || c == '\\') result += '\\';
+        result += c;
+    }
+    return result + '"';
+}
+
 struct Describe {
     std::string operator()(std::monostate) const { return "none"; }
     std::string operator()(bool value) const { return value ? "true" : "false"; }
     std::string operator()(std::int64_t value) const { return std::to_string(value); }
     std::string operator()(double value) const { return describe(value); }
-    std::string operator()(const std::string& value) const { return '"' + value + '"'; }
+    std::string operator()(const std::string& value) const { return quoted(value); }
     std::string operator()(const PropertyList::Data& value) const {
         return "<" + std::to_string(value.size()) + " bytes>";
     }
@@ -30,7 +40,7 @@ struct Describe {
     }
     std::string operator()(const PropertyList::Dictionary& value) const {
         return joined('{', '}', value,
-                      [](const auto& entry) { return '"' + entry.first + "\": " + entry.second.description(); });
+                      [](const auto& entry) { return quoted(entry.first) + ": " + entry.second.description(); });
     }
 };
 

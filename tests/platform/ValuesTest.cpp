@@ -95,11 +95,12 @@ TEST(UserDefaultsConversion, ReadsWhatConvertsAndElseLikeAnAbsentValue) {
 }
 
 TEST(PropertyListValue, IsLookedUpAndPrintedWithoutFailing) {
-    const PropertyList list = PropertyList::Dictionary{
-        {"a", PropertyList::Array{std::int64_t{1}, true, 0.5, std::string("x")}}, {"b", PropertyList::Data{1, 2, 3}}};
+    const PropertyList list =
+        PropertyList::Dictionary{{"a", PropertyList::Array{std::int64_t{1}, true, 0.5, std::string("\\ \"x\"")}},
+                                 {"b", PropertyList::Data{1, 2, 3}}};
     EXPECT_EQ(list.at("a")->at("nothing"), nullptr);
     EXPECT_EQ(list.at("missing"), nullptr);
-    EXPECT_EQ(list.description(), R"({"a": [1, true, 0.5, "x"], "b": <3 bytes>})");
+    EXPECT_EQ(list.description(), R"({"a": [1, true, 0.5, "\\ \"x\""], "b": <3 bytes>})");
 }
 
 }  // namespace
