@@ -42,6 +42,12 @@ std::string nameForPeople(int processIdentifier) {
     return frontmost && frontmost->processIdentifier == processIdentifier ? frontmost->localizedName : "";
 }
 
+bool bringForward(int processIdentifier) {
+    RunningApplication application;
+    application.processIdentifier = processIdentifier;
+    return Workspace::shared().activateWithOptions(application, Workspace::activateIgnoringOtherApps);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -87,7 +93,8 @@ int main(int argc, char** argv) {
     const Installed<Accessibility, atspi::Accessibility> accessibility(
         atspi::Options{.baseKeyOfShifted = [&keys](char32_t character) { return keys.baseKeyOfShifted(character); },
                        .applicationName = nameForPeople,
-                       .sessionMenu = {}});
+                       .sessionMenu = {},
+                       .bringForward = bringForward});
 
     AppDelegate delegate;
     delegate.applicationDidFinishLaunching();

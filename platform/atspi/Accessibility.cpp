@@ -68,6 +68,7 @@ AXError Accessibility::copyMenuBar(int processIdentifier, AXValue& value) {
     lastRead_.time = std::chrono::duration_cast<microseconds>(std::chrono::steady_clock::now() - start);
     if (result != AXError::success) return result;
     tree->busEpoch = bus_.epoch();
+    tree->processIdentifier = processIdentifier;
     value = AXUIElementRef(std::make_shared<MenuElement>(std::move(tree), 0));
     return AXError::success;
 }
@@ -110,7 +111,9 @@ AXError Accessibility::AXUIElementPerformAction(const AXUIElementRef& element, s
     Connection* const bus = bus_.connection(deadlineIn(std::chrono::milliseconds(100)));
     if (bus == nullptr) return AXError::cannotComplete;
     if (epoch != bus_.epoch()) return AXError::invalidUIElement;
-    return pressMenuItem(*bus, node);
+    return pressMenuItem(*bus, node, [this, process = menu->tree()->processIdentifier] {
+        return options_.bringForward && options_.bringForward(process);
+    });
 }
 
 bool Accessibility::AXIsProcessTrusted() {

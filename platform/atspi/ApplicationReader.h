@@ -21,6 +21,8 @@ struct Options {
     std::function<std::string(int processIdentifier)> applicationName;
     /// Asked for at each reading; empty: the desktop has none, and the session's element has no children.
     std::function<SessionMenu()> sessionMenu;
+    /// Gives an application the input focus back; false: it cannot. Some enable an item only while they have it.
+    std::function<bool(int processIdentifier)> bringForward;
     /// For one whole reading, finding the application included.
     std::chrono::milliseconds readTime{700};
 };

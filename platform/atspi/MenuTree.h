@@ -45,6 +45,7 @@ struct MenuNode {
 struct MenuTree {
     std::vector<MenuNode> nodes;  // the first one is the menu bar
     unsigned busEpoch = 0;        // the life of the accessibility bus in which it was read
+    int processIdentifier = 0;    // of the application
 };
 
 /// The application whose menus these are: its root object, and its name for people.

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <thread>
 
 #include "platform/atspi/BusNodeSource.h"
 #include "platform/atspi/Utf8.h"
@@ -15,13 +16,16 @@ constexpr std::chrono::milliseconds checkTime{400};
 // GTK performs the item before it answers: one that opens a modal dialog keeps its answer until that is closed. The
 // program has just answered the check, so silence after this time means that it is busy with the item.
 constexpr std::chrono::milliseconds pressTime{150};
+// An editor enables "Select All" when its text has the focus again.
+constexpr std::chrono::milliseconds forwardTime{300};
+constexpr std::chrono::milliseconds betweenLooks{5};
 
 struct LiveItem {
     Answer name, role, states, keyBinding;
 };
 
-std::optional<LiveItem> askItem(Connection& bus, const ObjectRef& object) {
-    BusNodeSource source(bus, deadlineIn(checkTime));
+std::optional<LiveItem> askItem(Connection& bus, const ObjectRef& object, Deadline deadline) {
+    BusNodeSource source(bus, deadline);
     LiveItem item;
     int outstanding = 0;
     const auto ask = [&](Question question, Answer& into) {
@@ -62,13 +66,25 @@ bool isDisabled(const LiveItem& live) {
     return value != nullptr && (*value & (states::enabled | states::sensitive)) == 0;
 }
 
+bool becomesEnabled(Connection& bus, const MenuNode& item) {
+    const Deadline deadline = deadlineIn(forwardTime);
+    while (const auto live = askItem(bus, item.object, deadline)) {
+        if (!isDisabled(*live)) return true;
+        std::this_thread::sleep_for(betweenLooks);
+    }
+    return false;
+}
+
 }  // namespace
 
-AXError pressMenuItem(Connection& bus, const MenuNode& item) {
-    const auto live = askItem(bus, item.object);
+AXError pressMenuItem(Connection& bus, const MenuNode& item, const std::function<bool()>& bringForward) {
+    const auto live = askItem(bus, item.object, deadlineIn(checkTime));
     if (!live) return AXError::cannotComplete;
     if (!isSameItem(*live, item)) return AXError::invalidUIElement;
-    if (isDisabled(*live)) return AXError::failure;
+    if (isDisabled(*live)) {
+        const bool wasEnabled = item.isEnabled.value_or(true);
+        if (!wasEnabled || !bringForward() || !becomesEnabled(bus, item)) return AXError::failure;
+    }
 
     AXError result = AXError::success;
     bool isAnswered = false;
