@@ -125,7 +125,8 @@ void AccessibilityBus::connectToBus(const std::string& address) {
         logLine("accessibility: no connection to the bus at " + address);
         return;
     }
-    ++epoch_;
+    if (address != address_) ++epoch_;
+    address_ = address;
     bus_->call(
         {"org.a11y.atspi.Registry",
          "/org/a11y/atspi/registry",

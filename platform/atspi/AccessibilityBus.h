@@ -24,7 +24,7 @@ public:
     bool isEnabled(Deadline deadline);
     /// An open connection; null when there is none by the deadline. Valid until the next call here.
     Connection* connection(Deadline deadline);
-    /// A new number for each connection to a bus: what was read on another one is gone.
+    /// A new number for each life of the bus: what was read in another one is gone.
     unsigned epoch() const { return epoch_; }
 
 private:
@@ -48,6 +48,7 @@ private:
     bool isAskingForStatus_ = false;
     bool isAskingForAddress_ = false;
     unsigned epoch_ = 0;
+    std::string address_;  // of the last connection; it holds the bus's own identifier
     int repairsLeft_ = 0;
     std::shared_ptr<bool> isAlive_ = std::make_shared<bool>(true);  // for delayed tasks
 };

@@ -20,6 +20,8 @@ namespace {
 
 const ObjectRef registryRoot{"org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"};
 
+constexpr std::size_t longestApplicationName = 200;
+
 struct Application {
     ObjectRef root;
     std::string name;
@@ -101,7 +103,8 @@ Application askApplication(Connection& bus, const ObjectRef& root, Deadline dead
     Inquiry inquiry(bus, deadline, calls);
     application.root = root;
     inquiry.ask(root, Question::name, [&application](const Answer& answer) {
-        if (const auto* const name = std::get_if<std::string>(&answer)) application.name = cleanName(*name);
+        if (const auto* const name = std::get_if<std::string>(&answer))
+            application.name = cleanName(*name, longestApplicationName);
     });
     inquiry.ask(root, Question::children, [&application](const Answer& answer) {
         if (const auto* const windows = std::get_if<std::vector<ObjectRef>>(&answer)) application.windows = *windows;
@@ -134,18 +137,21 @@ Application askApplication(Connection& bus, const ObjectRef& root, Deadline dead
 }
 
 std::string nameForPeople(const Application& application, int processIdentifier, const Options& options) {
-    std::string name = options.applicationName ? cleanName(options.applicationName(processIdentifier)) : std::string{};
+    std::string name = options.applicationName
+                           ? cleanName(options.applicationName(processIdentifier), longestApplicationName)
+                           : std::string{};
     if (!name.empty()) return name;
     name = application.name;
     if (!name.empty()) name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
     return name;
 }
 
-void reportUnfinished(const RawTree& raw, const std::string& name, int processIdentifier, const Options& options) {
-    logLine("menus of " + name + " (" + std::to_string(processIdentifier) + "): stopped at " +
-            std::to_string(raw.readCount()) + " of " + std::to_string(raw.nodes.size()) + " elements, " +
-            "the limits are " + std::to_string(options.readTime.count()) + " ms, " +
-            std::to_string(ReadLimits{}.elements) + " elements and depth " + std::to_string(ReadLimits{}.depth));
+void reportUnfinished(const RawTree& raw, const std::string& name, int processIdentifier, Deadline start) {
+    using std::chrono::milliseconds;
+    const auto time = std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - start);
+    logLine("menus of " + name + " (" + std::to_string(processIdentifier) + "): stopped after " +
+            std::to_string(time.count()) + " ms with " + std::to_string(raw.readCount()) + " of " +
+            std::to_string(raw.nodes.size()) + " elements read");
 }
 
 }  // namespace
@@ -175,7 +181,7 @@ AXError readMenus(Connection& bus, int processIdentifier, const Options& options
         }
         const RawTree raw = MenuReader(source, known, options.baseKeyOfShifted).read(*menuBar);
         const std::string name = nameForPeople(application, processIdentifier, options);
-        if (!raw.isComplete) reportUnfinished(raw, name, processIdentifier, options);
+        if (!raw.isComplete) reportUnfinished(raw, name, processIdentifier, deadline - options.readTime);
         statistics.calls += source.calls();
         statistics.elements = raw.nodes.size();
         statistics.elementsRead = raw.readCount();
