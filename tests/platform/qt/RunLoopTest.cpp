@@ -1,0 +1,57 @@
+#include <unistd.h>
+
+#include <QElapsedTimer>
+
+#include "platform/qt/QtRunLoop.h"
+#include "tests/platform/qt/QtFixture.h"
+
+namespace orlamo {
+namespace {
+
+class Loop : public QtFixture {
+protected:
+    template <class Condition>
+    static bool runUntil(Condition condition) {
+        QElapsedTimer timer;
+        timer.start();
+        while (!condition() && timer.elapsed() < 5000) QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        return condition();
+    }
+    qt::QtRunLoop loop;
+};
+
+TEST_F(Loop, ATimerMayBeDestroyedByItsOwnTaskAndFiresNoMore) {
+    std::unique_ptr<RunLoop::Handle> handle;
+    auto witness = std::make_shared<int>(0);
+    handle = loop.scheduleRepeatingTimer(0.001, [&handle, witness] {
+        handle.reset();
+        ++*witness;
+    });
+    EXPECT_TRUE(runUntil([&] { return *witness == 1; }));
+    bool later = false;
+    loop.asyncAfter(0.02, [&] { later = true; });
+    EXPECT_TRUE(runUntil([&] { return later; }));
+    EXPECT_EQ(*witness, 1);
+    EXPECT_EQ(witness.use_count(), 1) << "the task is gone too";
+}
+
+TEST_F(Loop, AReadableDescriptorIsHeardUntilItsWatchIsDestroyed) {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    int heard = 0;
+    std::unique_ptr<RunLoop::Handle> watch;
+    watch = loop.watchReadable(ends[0], [&] {
+        if (++heard == 2) watch.reset();
+    });
+    ASSERT_EQ(write(ends[1], "x", 1), 1);
+    EXPECT_TRUE(runUntil([&] { return heard == 2; }));
+    bool later = false;
+    loop.asyncAfter(0.01, [&] { later = true; });
+    EXPECT_TRUE(runUntil([&] { return later; }));
+    EXPECT_EQ(heard, 2);
+    close(ends[0]);
+    close(ends[1]);
+}
+
+}  // namespace
+}  // namespace orlamo
