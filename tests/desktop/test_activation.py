@@ -50,7 +50,7 @@ class SystemCells(DesktopTest):
         self.start_program()
         self.session.open_editor("mousepad")
         self.program.open_panel()
-        self.screen.click(*self.program.hover("Show Desktop"))
+        self.screen.click(*self.program.hover("Show desktop"))
         wait_until((self.session.folder / "desktop-shown").exists, 5, "window manager's own key binding run")
         self.program.wait_until_closed()
 
