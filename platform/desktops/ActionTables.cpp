@@ -123,20 +123,62 @@ constexpr XfceWindowRow windowRows[] = {
     {120, "workspace_3_key"},    {121, "workspace_4_key"}, {9, "cycle_windows_key"},
 };
 
-constexpr XfceCommandRow commandRows[] = {
+constexpr CommandRow commandTable[] = {
     {160, "xfce4-appfinder", "", "c"},
     {160, "xfce4-popup-whiskermenu", ""},
     {160, "xfce4-popup-applicationsmenu", ""},
+    {160, "lxpanelctl", "", "", "menu"},
+    {160, "rofi", "", "", "drun"},
+    {160, "rofi", "", "", "run"},
+    {160, "dmenu_run", ""},
+    {160, "jgmenu_run", ""},
     // Without an option its dialog asks what to do with a picture of the whole screen.
     {28, "xfce4-screenshooter", "f", "c"},
     {28, "xfce4-screenshooter", "", "rwc"},
     {29, "xfce4-screenshooter", "fc"},
     {30, "xfce4-screenshooter", "r", "c"},
     {31, "xfce4-screenshooter", "rc"},
+    {28, "gnome-screenshot", "", "awci"},
+    {29, "gnome-screenshot", "c", "awi"},
+    {30, "gnome-screenshot", "a", "ci"},
+    {31, "gnome-screenshot", "ac", "i"},
+    {28, "mate-screenshot", "", "awci"},
+    {29, "mate-screenshot", "c", "awi"},
+    {30, "mate-screenshot", "a", "ci"},
+    {31, "mate-screenshot", "ac", "i"},
+    {28, "scrot", "", "asuwkCM"},
+    {30, "scrot", "s"},
     {64, "catfish", ""},
     {59, "orca", ""},
     {162, "xfce4-accessibility-settings", ""},
     {98, "xfhelp4", ""},
+};
+
+// Openbox takes older names of its actions too.
+constexpr OpenboxRow openboxTable[] = {
+    {160, "ShowMenu", "menu", "root-menu"},
+    {36, "ToggleShowDesktop"},
+    {79, "GoToDesktop", "to", "left"},
+    {79, "GoToDesktop", "to", "west"},
+    {79, "DesktopLeft"},
+    {79, "GoToDesktop", "to", "previous"},
+    {79, "DesktopPrevious"},
+    {81, "GoToDesktop", "to", "right"},
+    {81, "GoToDesktop", "to", "east"},
+    {81, "DesktopRight"},
+    {81, "GoToDesktop", "to", "next"},
+    {81, "DesktopNext"},
+    {118, "GoToDesktop", "to", "1"},
+    {118, "Desktop", "desktop", "1"},
+    {119, "GoToDesktop", "to", "2"},
+    {119, "Desktop", "desktop", "2"},
+    {120, "GoToDesktop", "to", "3"},
+    {120, "Desktop", "desktop", "3"},
+    {121, "GoToDesktop", "to", "4"},
+    {121, "Desktop", "desktop", "4"},
+    // With panels it does not go to the next window alone.
+    {9, "NextWindow", "panels", ""},
+    {9, "NextWindow", "panels", "no"},
 };
 
 constexpr std::string_view layouts = "KDE Keyboard Layout Switcher";
@@ -200,8 +242,12 @@ std::span<const XfceWindowRow> xfceWindowRows() {
     return windowRows;
 }
 
-std::span<const XfceCommandRow> xfceCommandRows() {
-    return commandRows;
+std::span<const CommandRow> commandRows() {
+    return commandTable;
+}
+
+std::span<const OpenboxRow> openboxRows() {
+    return openboxTable;
 }
 
 std::span<const KdeRow> kdeRows() {

@@ -24,13 +24,23 @@ struct XfceWindowRow {
 };
 std::span<const XfceWindowRow> xfceWindowRows();
 
-struct XfceCommandRow {
+/// Programs that keys of Xfce and Openbox run.
+struct CommandRow {
     int id;
     std::string_view program;
     std::string_view options;        // letters that must all be there
     std::string_view unwanted = {};  // letters of which none may be there
+    std::string_view word = {};      // must be there, as no option
 };
-std::span<const XfceCommandRow> xfceCommandRows();
+std::span<const CommandRow> commandRows();
+
+struct OpenboxRow {
+    int id;
+    std::string_view action;
+    std::string_view option = {};
+    std::string_view value = {};  // of that option; empty also means that it is not given
+};
+std::span<const OpenboxRow> openboxRows();
 
 struct KdeRow {
     int id;

@@ -4,7 +4,9 @@
 
 #include "platform/Log.h"
 #include "platform/desktops/GioSettingsSource.h"
+#include "platform/desktops/OpenboxHotKeys.h"
 #include "platform/desktops/SymbolicHotKeys.h"
+#include "platform/desktops/Text.h"
 
 namespace orlamo::desktops {
 
@@ -20,11 +22,15 @@ std::string currentDesktopOfEnvironment() {
 
 }  // namespace
 
-DesktopPreferences::DesktopPreferences()
-    : DesktopPreferences(std::make_unique<GioSettingsSource>(), currentDesktopOfEnvironment) {}
+DesktopPreferences::DesktopPreferences(CurrentWindowManager currentWindowManager)
+    : DesktopPreferences(std::make_unique<GioSettingsSource>(), currentDesktopOfEnvironment,
+                         std::move(currentWindowManager)) {}
 
-DesktopPreferences::DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop)
-    : source_(std::move(source)), currentDesktop_(std::move(currentDesktop)) {}
+DesktopPreferences::DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop,
+                                       CurrentWindowManager currentWindowManager)
+    : source_(std::move(source)),
+      currentDesktop_(std::move(currentDesktop)),
+      currentWindowManager_(std::move(currentWindowManager)) {}
 
 DesktopPreferences::~DesktopPreferences() = default;
 
@@ -41,11 +47,19 @@ PropertyList DesktopPreferences::CFPreferencesCopyAppValue(std::string_view key,
 PropertyList DesktopPreferences::read() {
     const auto names = currentDesktop_();
     const auto desktop = desktopOfNames(names);
-    if (!desktop) return {};
+    if (!desktop) return readWindowManager();
     source_->refresh();
     auto hotKeys = symbolicHotKeys(*desktop, *source_);
     if (hotKeys == PropertyList()) logLine("The shortcuts of the desktop \"" + names + "\" cannot be read");
     return hotKeys;
+}
+
+PropertyList DesktopPreferences::readWindowManager() {
+    if (!currentWindowManager_) return {};
+    const auto [name, configuration] = currentWindowManager_();
+    if (!equalIgnoringCase(name, "Openbox")) return {};
+    source_->refresh();
+    return openboxHotKeys(configuration, *source_);
 }
 
 }  // namespace orlamo::desktops

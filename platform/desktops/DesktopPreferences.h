@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/SystemPreferences.h"
+#include "platform/desktops/Desktop.h"
 #include "platform/desktops/SettingsSource.h"
 
 namespace orlamo::desktops {
@@ -15,10 +16,13 @@ namespace orlamo::desktops {
 class DesktopPreferences final : public SystemPreferences {
 public:
     using CurrentDesktop = std::function<std::string()>;
+    using CurrentWindowManager = std::function<WindowManager()>;
 
-    /// The desktop that XDG_CURRENT_DESKTOP names, its settings read through GIO.
-    DesktopPreferences();
-    DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop);
+    /// The desktop that XDG_CURRENT_DESKTOP names, its settings read through GIO. Where it names none that is known,
+    /// the window manager's own keys, if that is Openbox.
+    explicit DesktopPreferences(CurrentWindowManager currentWindowManager = {});
+    DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop,
+                       CurrentWindowManager currentWindowManager = {});
     ~DesktopPreferences() override;
 
     void CFPreferencesAppSynchronize(std::string_view domain) override;
@@ -26,9 +30,11 @@ public:
 
 private:
     PropertyList read();
+    PropertyList readWindowManager();
 
     std::unique_ptr<SettingsSource> source_;
     CurrentDesktop currentDesktop_;
+    CurrentWindowManager currentWindowManager_;
     std::optional<PropertyList> hotKeys_;
 };
 

@@ -1,5 +1,8 @@
 #include "platform/desktops/GioSettingsSource.h"
 
+#include <filesystem>
+#include <fstream>
+
 #include "platform/Log.h"
 #include "platform/desktops/GioPointers.h"
 #include "platform/desktops/SessionBus.h"
@@ -137,6 +140,30 @@ std::optional<std::vector<GlobalShortcut>> GioSettingsSource::globalShortcuts(
         }
     }
     return shortcuts;
+}
+
+std::optional<std::string> GioSettingsSource::file(std::string_view path, std::size_t limit) {
+    const std::filesystem::path name(path);
+    std::vector<std::filesystem::path> places;
+    if (name.is_absolute()) {
+        places.push_back(name);
+    } else {
+        places.push_back(g_get_user_config_dir() / name);
+        for (const auto* folder = g_get_system_config_dirs(); *folder != nullptr; ++folder) {
+            places.push_back(*folder / name);
+        }
+    }
+    for (const auto& place : places) {
+        std::error_code error;
+        if (!std::filesystem::is_regular_file(place, error)) continue;  // a pipe would wait for its writer
+        std::ifstream stream(place, std::ios::binary);
+        if (!stream) continue;
+        std::string contents(std::min<std::uintmax_t>(limit, std::filesystem::file_size(place, error)), '\0');
+        stream.read(contents.data(), static_cast<std::streamsize>(contents.size()));
+        contents.resize(static_cast<std::size_t>(stream.gcount()));
+        return contents;
+    }
+    return std::nullopt;
 }
 
 }  // namespace orlamo::desktops

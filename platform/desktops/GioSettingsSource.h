@@ -6,8 +6,8 @@
 
 namespace orlamo::desktops {
 
-/// Reads GSettings, and xfconf and KGlobalAccel over the session bus. Starts no service, and waits for the bus 150 ms
-/// in all between one refresh() and the next. What cannot be read is absent, with a line in the log.
+/// Reads GSettings, and xfconf and KGlobalAccel over the session bus, and files. Starts no service, and waits for the
+/// bus 150 ms in all between one refresh() and the next. What cannot be read is absent, with a line in the log.
 class GioSettingsSource final : public SettingsSource {
 public:
     GioSettingsSource();
@@ -17,6 +17,7 @@ public:
     std::optional<std::vector<std::string>> texts(std::string_view schema, std::string_view key) override;
     std::optional<std::map<std::string, std::string>> properties(std::string_view channel) override;
     std::optional<std::vector<GlobalShortcut>> globalShortcuts(std::span<const std::string_view> components) override;
+    std::optional<std::string> file(std::string_view path, std::size_t limit) override;
 
 private:
     struct Parts;

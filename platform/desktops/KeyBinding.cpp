@@ -21,6 +21,15 @@ constexpr AcceleratorModifier acceleratorModifiers[] = {
     {"Meta", EventFlags::control},
 };
 
+// Meta stands on the Alt keys and Hyper on the Super keys.
+constexpr AcceleratorModifier openboxModifiers[] = {
+    {"C", EventFlags::command},   {"Control", EventFlags::command}, {"A", EventFlags::option},
+    {"Alt", EventFlags::option},  {"Mod1", EventFlags::option},     {"M", EventFlags::option},
+    {"Meta", EventFlags::option}, {"S", EventFlags::shift},         {"Shift", EventFlags::shift},
+    {"W", EventFlags::control},   {"Super", EventFlags::control},   {"Mod4", EventFlags::control},
+    {"H", EventFlags::control},   {"Hyper", EventFlags::control},
+};
+
 struct QtModifier {
     std::uint32_t bit;
     std::uint64_t flag;
@@ -61,6 +70,23 @@ KeyBinding bindingOfAccelerator(std::string_view accelerator) {
     const auto key = std::ranges::find_if(
         keyTable(), [accelerator](const Key& each) { return equalIgnoringCase(each.name, accelerator); });
     return bindingOf(key == keyTable().end() ? nullptr : &*key, mask);
+}
+
+KeyBinding bindingOfOpenboxKey(std::string_view key) {
+    std::uint64_t mask = 0;
+    for (auto end = key.find('-'); end != std::string_view::npos; end = key.find('-')) {
+        const auto name = key.substr(0, end);
+        const auto* const modifier = std::ranges::find_if(
+            openboxModifiers, [name](const auto& each) { return equalIgnoringCase(each.name, name); });
+        if (modifier == std::end(openboxModifiers)) return bindingOf(nullptr, 0);
+        mask |= modifier->flag;
+        key.remove_prefix(end + 1);
+    }
+    const auto found = std::ranges::find_if(keyTable(), [key](const Key& each) {
+        return each.name == key || (key.size() == 1 && equalIgnoringCase(each.name, key));
+    });
+    const bool isKeyOfX = found != keyTable().end() && found->name != "Above_Tab";
+    return bindingOf(isKeyOfX ? &*found : nullptr, mask);
 }
 
 KeyBinding bindingOfQtKey(std::int32_t key) {

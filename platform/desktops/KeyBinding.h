@@ -23,6 +23,8 @@ struct KeyBinding {
 
 /// From "<Primary><Alt>Left", "<Super>s", "Print"; "" and "disabled" are unset.
 KeyBinding bindingOfAccelerator(std::string_view accelerator);
+/// From "C-A-Left", "W-d", "Print", with the key's name in the case that X has it in.
+KeyBinding bindingOfOpenboxKey(std::string_view key);
 /// From Qt's Key with its modifier bits; 0 is unset.
 KeyBinding bindingOfQtKey(std::int32_t key);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -32,6 +33,9 @@ public:
     /// The actions of those components; components that do not run are left out.
     virtual std::optional<std::vector<GlobalShortcut>> globalShortcuts(
         std::span<const std::string_view> components) = 0;
+    /// The first `limit` bytes of a file, at most; a relative path is that of the first folder for the configuration
+    /// of programs, the user's own before the system's, where such a file can be read.
+    virtual std::optional<std::string> file(std::string_view path, std::size_t limit) = 0;
 };
 
 }  // namespace orlamo::desktops

@@ -3,46 +3,14 @@
 #include <algorithm>
 
 #include "platform/desktops/ActionTables.h"
-#include "platform/desktops/KeyBinding.h"
-#include "platform/desktops/KeyTable.h"
-#include "platform/desktops/Text.h"
+#include "platform/desktops/Command.h"
+#include "platform/desktops/HotKeys.h"
 
 namespace orlamo::desktops {
 
 namespace {
 
 constexpr std::string_view xfceChannel = "xfce4-keyboard-shortcuts";
-
-// Collects the bindings of each hot key; the first one that can be written as a key with modifiers counts.
-class HotKeys {
-public:
-    void addAction(int id) { bindings_.try_emplace(id); }
-
-    void add(int id, const KeyBinding& binding) {
-        auto& found = bindings_[id];
-        if (found.combination) return;
-        found.isSet = found.isSet || binding.isSet;
-        found.combination = binding.combination;
-    }
-
-    PropertyList propertyList() const {
-        PropertyList::Dictionary entries;
-        for (const auto& [id, binding] : bindings_) {
-            if (binding.isSet && !binding.combination) continue;
-            constexpr KeyCombination noKey{noCharacter, noCharacter, 0};
-            const auto [character, keyCode, mask] = binding.combination.value_or(noKey);
-            entries[std::to_string(id)] = PropertyList::Dictionary{
-                {"enabled", binding.isSet},
-                {"value", PropertyList::Dictionary{{"parameters", PropertyList::Array{character, keyCode, mask}}}},
-            };
-        }
-        if (entries.empty()) return {};
-        return entries;
-    }
-
-private:
-    std::map<int, KeyBinding> bindings_;
-};
 
 void addSettings(Desktop desktop, SettingsSource& source, HotKeys& hotKeys) {
     for (const auto rows : settingsRows(desktop)) {
@@ -56,35 +24,6 @@ void addSettings(Desktop desktop, SettingsSource& source, HotKeys& hotKeys) {
             }
         }
     }
-}
-
-struct Command {
-    std::string_view program;
-    std::string options;
-};
-
-// "/usr/bin/xfce4-screenshooter -r --clipboard" is the program and the letters "rc".
-Command commandOf(std::string_view text) {
-    static constexpr std::pair<std::string_view, char> longOptions[] = {
-        {"--fullscreen", 'f'}, {"--window", 'w'}, {"--region", 'r'}, {"--clipboard", 'c'}, {"--collapsed", 'c'}};
-    Command command;
-    for (const auto word : split(text, ' ')) {
-        if (command.program.empty()) {
-            command.program = word.substr(word.rfind('/') + 1);
-        } else if (word.starts_with("--")) {
-            const auto* const found = std::ranges::find(longOptions, word, &std::pair<std::string_view, char>::first);
-            if (found != std::end(longOptions)) command.options += found->second;
-        } else if (word.starts_with('-')) {
-            command.options += word.substr(1);
-        }
-    }
-    return command;
-}
-
-bool runs(const Command& command, const XfceCommandRow& row) {
-    const auto given = [&command](char option) { return command.options.find(option) != std::string::npos; };
-    return command.program == row.program && std::ranges::all_of(row.options, given) &&
-           std::ranges::none_of(row.unwanted, given);
 }
 
 // The bindings below "/commands" or "/xfwm4": accelerator to action.
@@ -113,7 +52,7 @@ void addXfce(SettingsSource& source, HotKeys& hotKeys) {
         }
     }
     const auto commandBindings = xfceBindings(*properties, "/commands");
-    for (const auto& row : xfceCommandRows()) {
+    for (const auto& row : commandRows()) {
         hotKeys.addAction(row.id);
         for (const auto& [accelerator, text] : commandBindings) {
             if (runs(commandOf(text), row)) hotKeys.add(row.id, bindingOfAccelerator(accelerator));

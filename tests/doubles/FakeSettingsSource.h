@@ -31,9 +31,16 @@ public:
         return answer;
     }
 
+    std::optional<std::string> file(std::string_view path, std::size_t limit) override {
+        const auto found = files.find(path);
+        if (found == files.end()) return std::nullopt;
+        return found->second.substr(0, limit);
+    }
+
     std::map<std::string, std::vector<std::string>> settings;  // by "schema key"
     std::optional<std::map<std::string, std::string>> xfconf;
     std::optional<std::vector<desktops::GlobalShortcut>> kde;
+    std::map<std::string, std::string, std::less<>> files;  // by path as it is asked for
     int refreshes = 0;
 };
 
