@@ -19,6 +19,7 @@
 #include "platform/x11/EventPoster.h"
 #include "platform/x11/Keyboard.h"
 #include "platform/x11/WindowEffects.h"
+#include "platform/x11/WindowManager.h"
 #include "platform/x11/Workspace.h"
 #include "platform/xdg/Autostart.h"
 #include "shell/AppDelegate.h"
@@ -64,7 +65,6 @@ int main(int argc, char** argv) {
     const Installed<Bundle, qt::QtBundle> bundle(resources, QLocale::system());
     const Installed<UserDefaults, qt::JsonUserDefaults> defaults(qt::settingsPath());
 
-    const Installed<SystemPreferences, desktops::DesktopPreferences> preferences;
     const Installed<LoginItems, xdg::Autostart> loginItems(
         xdg::StartedProgram{.executable = QApplication::applicationFilePath().toStdString()});
 
@@ -76,7 +76,11 @@ int main(int argc, char** argv) {
     }
     x11::CoreKeyboard keys(*connection);
     x11::Windows windows(*connection);
+    x11::WindowManager windowManager(*connection, windows);
     x11::FocusMemory focus;
+    const Installed<SystemPreferences, desktops::DesktopPreferences> preferences([&windowManager] {
+        return desktops::WindowManager{windowManager.name(), windowManager.configuration()};
+    });
     const Installed<Keyboard, x11::Keyboard> keyboard(keys);
     const Installed<EventMonitors, x11::EventMonitors> monitors(*connection, keys, windows);
     const Installed<EventPoster, x11::EventPoster> poster(*connection, keys);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "platform/x11/Windows.h"
+
+namespace orlamo::x11 {
+
+/// What the running window manager says about itself.
+class WindowManager {
+public:
+    WindowManager(Connection& connection, Windows& windows) : connection_(connection), windows_(windows) {}
+
+    /// _NET_WM_NAME of its check window; empty without a window manager that has one.
+    std::string name();
+    /// The file that Openbox was told to read; empty when it reads its usual one, and for other window managers.
+    std::string configuration();
+
+private:
+    Connection& connection_;
+    Windows& windows_;
+};
+
+}  // namespace orlamo::x11
