@@ -46,6 +46,11 @@ def pid_of(connection, name):
     return answer[0] if answer else None
 
 
+def start_service(connection, name):
+    call(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "StartServiceByName",
+         GLib.Variant("(su)", (name, 0)))
+
+
 class AccessibleApplication:
     """One process on the accessibility bus."""
 

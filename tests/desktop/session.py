@@ -28,13 +28,13 @@ KEY = '<keybind key="{key}"><action name="Execute"><command>{command}</command><
 class DesktopSession:
     """Starts in __enter__, ends everything it started in __exit__, and nothing else."""
 
-    def __init__(self, size="1440x900x24", keys=None, server=(), desktop_settings=""):
+    def __init__(self, size="1440x900x24", keys=None, server=(), config=None):
         """`keys` maps a key in the window manager's own words ("W-d") to the shell command it runs; `server` holds
-        further words of the X server's command line; `desktop_settings` is what GSettings finds, as a key file."""
+        further words of the X server's command line; `config` maps files of the configuration folder to their text."""
         self._size = size
         self._keys = keys or {}
         self._server = server
-        self._desktop_settings = desktop_settings
+        self._config = config or {}
         self._started = []
         self.screen = self.session_bus = self.accessibility_bus = None
 
@@ -68,9 +68,9 @@ class DesktopSession:
             folder.mkdir(mode=0o700)
             self.environment[name] = str(folder)
         self.config = self.folder / "config"
-        settings = self.config / "glib-2.0/settings"
-        settings.mkdir(parents=True)
-        (settings / "keyfile").write_text(self._desktop_settings)
+        for name, text in self._config.items():
+            (self.config / name).parent.mkdir(parents=True)
+            (self.config / name).write_text(text)
 
     def _start_server(self):
         reading, writing = os.pipe()
@@ -134,6 +134,11 @@ class DesktopSession:
                 continue
         if process in self._started:
             self._started.remove(process)
+
+    def start_service(self, name):
+        """What a desktop's session has running under that name on its bus."""
+        accessible.start_service(self.session_bus, name)
+        wait_until(lambda: accessible.pid_of(self.session_bus, name), PATIENCE, f"service {name}")
 
     def open_editor(self, program, text="one two three\n"):
         """An editor in front with a file of that text, its menus readable."""

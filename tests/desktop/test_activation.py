@@ -2,8 +2,18 @@
 from case import DesktopTest
 from screen import wait_until
 
-SHOW_DESKTOP = """[org/gnome/desktop/wm/keybindings]
+GNOME_SETTINGS = """[org/gnome/desktop/wm/keybindings]
 show-desktop=['<Super>d']
+"""
+XFCE_SETTINGS = """<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xfce4-keyboard-shortcuts" version="1.0">
+  <property name="xfwm4" type="empty">
+    <property name="custom" type="empty">
+      <property name="override" type="bool" value="true"/>
+      <property name="&lt;Primary&gt;&lt;Alt&gt;d" type="string" value="show_desktop_key"/>
+    </property>
+  </property>
+</channel>
 """
 
 
@@ -43,16 +53,34 @@ class ApplicationCells(DesktopTest):
 
 
 class SystemCells(DesktopTest):
-    session_arguments = {"keys": {"W-d": "touch desktop-shown"}, "desktop_settings": SHOW_DESKTOP}
-    program_environment = {"XDG_CURRENT_DESKTOP": "GNOME"}
+    """The window manager stands for the desktop: it has the same key and runs a command for it."""
 
-    def test_a_click_on_a_system_cell_makes_the_desktop_do_it(self):
+    def assert_a_click_shows_the_desktop(self):
         self.start_program()
         self.session.open_editor("mousepad")
         self.program.open_panel()
         self.screen.click(*self.program.hover("Show desktop"))
         wait_until((self.session.folder / "desktop-shown").exists, 5, "window manager's own key binding run")
         self.program.wait_until_closed()
+
+
+class Gnome(SystemCells):
+    session_arguments = {"keys": {"W-d": "touch desktop-shown"},
+                         "config": {"glib-2.0/settings/keyfile": GNOME_SETTINGS}}
+    program_environment = {"XDG_CURRENT_DESKTOP": "GNOME"}
+
+    def test_a_click_on_a_system_cell_makes_gnome_do_it(self):
+        self.assert_a_click_shows_the_desktop()
+
+
+class Xfce(SystemCells):
+    session_arguments = {"keys": {"C-A-d": "touch desktop-shown"},
+                         "config": {"xfce4/xfconf/xfce-perchannel-xml/xfce4-keyboard-shortcuts.xml": XFCE_SETTINGS}}
+    program_environment = {"XDG_CURRENT_DESKTOP": "XFCE"}
+
+    def test_a_click_on_a_system_cell_makes_xfce_do_it(self):
+        self.session.start_service("org.xfce.Xfconf")
+        self.assert_a_click_shows_the_desktop()
 
 
 class NoDesktop(DesktopTest):

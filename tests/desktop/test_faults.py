@@ -66,6 +66,17 @@ class Faults(DesktopTest):
         self.program.assert_alive()
 
 
+class NoFonts(DesktopTest):
+    program_environment = {"FONTCONFIG_FILE": "/dev/null"}
+
+    def test_without_any_font_the_panel_opens_and_closes(self):
+        self.start_program()
+        self.session.open_editor("mousepad")
+        self.program.open_panel()
+        self.screen.tap(self.screen.ESCAPE)
+        self.program.wait_until_closed()
+
+
 class PoorServer(DesktopTest):
     session_arguments = {"server": ["-extension", "X-Resource", "-extension", "MIT-SHM", "-extension", "RENDER",
                                     "-extension", "COMPOSITE"]}
