@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QMetaObject>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QSurfaceFormat>
 #include <cstdlib>
 
@@ -30,19 +31,31 @@ void PanelSurface::retire() {
     deleteLater();
 }
 
-void PanelSurface::show(const std::function<void(QImage&)>& paint) {
-    const QRegion all(QRect(QPoint(), size()));
+void PanelSurface::show(const std::vector<QRect>& parts, const std::function<void(QPainter&, const QRect&)>& paint) {
     if (store_.size() != size()) store_.resize(size());
-    store_.beginPaint(all);
+    // The store reckons in whole points, and erases what it is told will be painted.
+    const double scale = devicePixelRatio();
+    QRegion points;
+    std::vector<QRect> pixels;
+    for (const QRect& part : parts) {
+        const QRectF exact(part.x() / scale, part.y() / scale, part.width() / scale, part.height() / scale);
+        const QRect whole = exact.toAlignedRect().intersected(QRect(QPoint(), size()));
+        if (whole.isEmpty()) continue;
+        points += whole;
+        const QRectF again(whole.x() * scale, whole.y() * scale, whole.width() * scale, whole.height() * scale);
+        pixels.push_back(again.toAlignedRect().adjusted(-1, -1, 1, 1));
+    }
+    store_.beginPaint(points);
     QPaintDevice* const device = store_.paintDevice();
     if (device != nullptr && device->devType() == QInternal::Image) {
         auto& image = *static_cast<QImage*>(device);
         // The same pixels, addressed as such.
-        QImage pixels(image.bits(), image.width(), image.height(), image.bytesPerLine(), image.format());
-        paint(pixels);
+        QImage picture(image.bits(), image.width(), image.height(), image.bytesPerLine(), image.format());
+        QPainter painter(&picture);
+        for (const QRect& part : pixels) paint(painter, part);
     }
     store_.endPaint();
-    store_.flush(all);
+    store_.flush(points);
 }
 
 void PanelSurface::showAgain() {

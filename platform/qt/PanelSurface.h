@@ -4,6 +4,9 @@
 #include <QEnterEvent>
 #include <QWindow>
 #include <functional>
+#include <vector>
+
+class QPainter;
 
 namespace orlamo::qt {
 
@@ -30,8 +33,10 @@ public:
     /// Hears nothing any more; deletes itself when the event that is being handled is over.
     void retire();
 
-    /// Runs `paint` on a picture of the whole window in device pixels, and shows it.
-    void show(const std::function<void(QImage&)>& paint);
+    /// Paints some parts of the window and shows them. `paint` is called for each, or for somewhat more than it, and
+    /// must colour all of that: a painter and a rectangle in device pixels. The rest holds what was painted last, but
+    /// nothing after a change of the window's size.
+    void show(const std::vector<QRect>& parts, const std::function<void(QPainter&, const QRect&)>& paint);
     /// Shows again what was painted last.
     void showAgain();
 

@@ -2,13 +2,16 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QRegion>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/Log.h"
 #include "platform/VisualEffectView.h"
 #include "platform/qt/Backdrop.h"
+#include "platform/qt/Damage.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/Replay.h"
 #include "platform/qt/ScreenSpace.h"
@@ -64,6 +67,7 @@ void QtWindowHost::scheduleUpdate() {
 
 void QtWindowHost::runPass() {
     inPass_ = true;
+    std::swap(list_, shown_);
     list_.clear();
     window_.display(list_);
     list_.finish();
@@ -83,13 +87,14 @@ void QtWindowHost::orderFront() {
         *this, isComposited_ ? PanelSurface::Look::translucent : PanelSurface::Look::opaque,
         window_.level > Window::normalLevel ? PanelSurface::Stacking::aboveAll : PanelSurface::Stacking::normal));
     updateIsDue_ = false;
+    native_ = {};
     place();
     surface_->create();
     scale_ = surface_->devicePixelRatio();
     makeBackdrop();
     // The picture follows the map in the same stream of requests: the window is never seen without it.
     surface_->setVisible(true);
-    paint();
+    paintAll();
     PanelSurface::synchronize();
     application_.windowCameToFront(surface_->winId());
     if (window_.needsDisplay()) scheduleUpdate();
@@ -107,13 +112,16 @@ void QtWindowHost::calledBack() {
     updateIsDue_ = false;
     const bool drawn = window_.needsDisplay();
     if (drawn) runPass();
-    const bool resized = place();
-    if (resized) makeBackdrop();
-    if (drawn || resized) paint();
+    if (place()) {
+        makeBackdrop();
+        paintAll();
+    } else if (drawn) {
+        paintChanges();
+    }
     if (window_.needsDisplay()) scheduleUpdate();
 }
 
-// Moves and sizes the native window as the frame says. True when its picture has another size than before.
+// Moves and sizes the native window as the frame says. True when that changed anything.
 bool QtWindowHost::place() {
     whole_ = toQt(window_.frame(), mainScreenRect());
     QRect native = whole_;
@@ -121,18 +129,21 @@ bool QtWindowHost::place() {
     if (std::max(whole_.width(), whole_.height()) * scale > largestNativePixels) {
         native = whole_.intersected(desktopRect());
         if (native.isEmpty()) native = QRect(whole_.topLeft(), QSize(1, 1));
+    }
+    const QPoint cut = native.topLeft() - whole_.topLeft();
+    if (native == native_ && cut == cut_) return false;
+    if (native != whole_) {
         logLine("window: " + std::to_string(whole_.width()) + " by " + std::to_string(whole_.height()) +
                 " points are more than can be shown; only what lies on the screen is");
     }
-    const QPoint cut = native.topLeft() - whole_.topLeft();
-    const bool resized = native.size() != surface_->size() || cut != cut_;
+    native_ = native;
     cut_ = cut;
-    if (native != surface_->geometry()) surface_->setGeometry(native);
-    return resized;
+    surface_->setGeometry(native);
+    return true;
 }
 
 PixelRect QtWindowHost::nativePixels() const {
-    return toDevicePixels(surface_->geometry(), *surface_->screen());
+    return toDevicePixels(native_, *surface_->screen());
 }
 
 void QtWindowHost::makeBackdrop() {
@@ -146,11 +157,10 @@ void QtWindowHost::makeBackdrop() {
     style.material = view->material;
     style.size = QSize(native.width, native.height);
     style.scale = scale_;
-    style.panel = QRectF(-cut_.x() * scale_, -cut_.y() * scale_, std::round(whole_.width() * scale_),
-                         std::round(whole_.height() * scale_));
+    style.panel = QRectF(-QPointF(cutPixels()), (QSizeF(whole_.size()) * scale_).toSize());
     if (view->maskImage) style.cornerRadius = view->maskImage->cornerRadius * scale_;
 
-    const bool isCut = !cut_.isNull() || whole_.size() != surface_->size();
+    const bool isCut = !cut_.isNull() || whole_.size() != native_.size();
     const int radius = isCut ? 0 : static_cast<int>(std::lround(style.cornerRadius));
     const bool blurs = view->material == VisualEffectView::Material::fullScreenUI;
     if (isComposited_) {
@@ -173,20 +183,43 @@ void QtWindowHost::makeBackdrop() {
     backdrop_ = orlamo::qt::makeBackdrop(style, screen, visible.topLeft() - QPoint(native.x, native.y));
 }
 
-void QtWindowHost::paint() {
-    surface_->show([this](QImage& picture) {
-        QPainter painter(&picture);
+// Where the native window's corner lies in the picture of the whole window.
+QPoint QtWindowHost::cutPixels() const {
+    return (QPointF(cut_) * scale_).toPoint();
+}
+
+void QtWindowHost::paintAll() {
+    const PixelRect native = nativePixels();
+    paint({QRect(0, 0, native.width, native.height)});
+}
+
+void QtWindowHost::paintChanges() {
+    auto parts = damage(shown_, list_, window_.frame().height, scale_, texts_);
+    if (!parts) {
+        paintAll();
+        return;
+    }
+    for (QRect& part : *parts) part.translate(-cutPixels());
+    if (!parts->empty()) paint(*parts);
+}
+
+// Parts are the native window's pixels; the list's are the whole window's.
+void QtWindowHost::paint(const std::vector<QRect>& parts) {
+    const QPoint cut = cutPixels();
+    surface_->show(parts, [&](QPainter& painter, const QRect& part) {
+        painter.resetTransform();
+        painter.setClipRect(part);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
         if (!backdrop_.isNull()) {
             painter.drawImage(0, 0, backdrop_);
         } else {
             const Color& color = window_.backgroundColor;
-            painter.fillRect(picture.rect(), QColor::fromRgbF(color.red, color.green, color.blue, color.alpha));
+            painter.fillRect(part, QColor::fromRgbF(color.red, color.green, color.blue, color.alpha));
         }
         painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        painter.translate(-cut);
         painter.scale(scale_, scale_);
-        painter.translate(-cut_);
-        replay(list_, painter, window_.frame().height, scale_, texts_);
+        replay(list_, painter, window_.frame().height, scale_, part.translated(cut), texts_);
     });
 }
 
@@ -198,7 +231,7 @@ void QtWindowHost::exposed() {
     scale_ = surface_->devicePixelRatio();
     place();
     makeBackdrop();
-    paint();
+    paintAll();
 }
 
 // Qt names a pixel by its upper left corner, the window's coordinates by the lower left one.

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPointF>
 #include <memory>
+#include <vector>
 
 #include "platform/Window.h"
 #include "platform/WindowSystem.h"
@@ -42,18 +43,23 @@ private:
     void scheduleUpdate();
     bool place();
     void makeBackdrop();
-    void paint();
+    void paintAll();
+    void paintChanges();
+    void paint(const std::vector<QRect>& parts);
+    QPoint cutPixels() const;
     PixelRect nativePixels() const;
     Point toWindow(QPointF position) const;
 
     Window& window_;
     TextCache& texts_;
     QtApplication& application_;
-    DisplayList list_;
+    DisplayList list_;   // of the last pass
+    DisplayList shown_;  // of the pass before, until its picture is brought up to date
     std::unique_ptr<PanelSurface, Retire> surface_;
     ScreenCapture capture_;
     QImage backdrop_;
     QRect whole_;       // the window's frame in Qt's coordinates
+    QRect native_;      // the native window's, as it was placed last
     QPoint cut_;        // from its upper left corner to the native window's, when that shows only a part
     double scale_ = 1;  // of what was painted last
     bool isComposited_ = false;

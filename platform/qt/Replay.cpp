@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <cmath>
 
+#include "platform/qt/Damage.h"
 #include "platform/qt/DisplayList.h"
 #include "platform/qt/TextCache.h"
 
@@ -84,11 +85,13 @@ void snapToPixels(QPainterPath& path, double scale) {
 
 }  // namespace
 
-void replay(const DisplayList& list, QPainter& painter, double height, double scale, TextCache& texts) {
+void replay(const DisplayList& list, QPainter& painter, double height, double scale, const QRect& part,
+            TextCache& texts) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const Color* pen = nullptr;
     for (const DisplayList::Item& item : list.items()) {
+        if (!pixelsOf(list, item, height, scale, texts).intersects(part)) continue;
         const Point origin = list.origin(item);
         if (!item.path.elements.empty()) {
             QPainterPath path = toPainterPath(item.path, origin, height);

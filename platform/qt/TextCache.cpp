@@ -17,21 +17,26 @@ constexpr std::size_t generationTexts = 16'384;
 constexpr std::size_t generationBytes = 1U << 20;
 constexpr int largestPixelSize = 512;
 
-// The heading of the session's own menu is this private character, which fonts have no business to define: shown as a
-// mark that fonts do have.
-constexpr char16_t sessionHeading = 0xF8FF;
-constexpr char16_t sessionMark = 0x25C9;  // fisheye
+// Characters that common fonts lack, or show as they like, and their equals that fonts-dejavu-core has.
+constexpr struct {
+    char16_t asked;
+    char16_t shown;
+} standIns[] = {
+    {0xF8FF, 0x25C9},  // a private character, the session menu's heading: a ring with a dot
+    {0x2334, 0x2423},  // the space bar: the open box
+};
+
+char16_t shownAs(char16_t unit) {
+    if (unit < 0x20 || (unit >= 0x7F && unit < 0xA0) || unit == 0x2028 || unit == 0x2029) return u' ';
+    for (const auto& standIn : standIns) {
+        if (unit == standIn.asked) return standIn.shown;
+    }
+    return unit;
+}
 
 QString printable(std::string_view text) {
     QString result = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    for (QChar& c : result) {
-        const char16_t unit = c.unicode();
-        if (unit == sessionHeading) {
-            c = QChar(sessionMark);
-        } else if (unit < 0x20 || (unit >= 0x7F && unit < 0xA0) || unit == 0x2028 || unit == 0x2029) {
-            c = QChar(u' ');
-        }
-    }
+    for (QChar& c : result) c = QChar(shownAs(c.unicode()));
     return result;
 }
 

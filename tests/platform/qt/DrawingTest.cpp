@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "platform/View.h"
+#include "platform/qt/Damage.h"
 #include "platform/qt/DisplayList.h"
 #include "platform/qt/QtTextMetrics.h"
 #include "platform/qt/Replay.h"
@@ -36,7 +37,7 @@ protected:
         image.fill(Qt::black);
         QPainter painter(&image);
         painter.scale(scale, scale);
-        qt::replay(list, painter, points.height(), scale, texts);
+        qt::replay(list, painter, points.height(), scale, image.rect(), texts);
         return image;
     }
     static int redAt(const QImage& image, int x, int y) { return qRed(image.pixel(x, y)); }
@@ -79,16 +80,16 @@ TEST_F(Drawing, ABarOfArcsCoversItsRectangleAndNothingElse) {
     list.finish();
     const QImage image = painted(list, {100, 50});
     for (const auto& [x, y, wanted] : {std::tuple{50, 20, 255},
-                                      {25, 20, 255},
-                                      {20, 30, 255},
-                                      {79, 30, 255},
-                                      {20, 20, 0},  // a rounded corner
-                                      {79, 39, 0},
-                                      {19, 30, 0},
-                                      {80, 30, 0},
-                                      {50, 19, 0},
-                                      {50, 40, 0},
-                                      {5, 3, 0}}) {
+                                       {25, 20, 255},
+                                       {20, 30, 255},
+                                       {79, 30, 255},
+                                       {20, 20, 0},  // a rounded corner
+                                       {79, 39, 0},
+                                       {19, 30, 0},
+                                       {80, 30, 0},
+                                       {50, 19, 0},
+                                       {50, 40, 0},
+                                       {5, 3, 0}}) {
         EXPECT_NEAR(redAt(image, x, y), wanted, 40) << x << ", " << y;
     }
 }
@@ -125,6 +126,45 @@ TEST_F(Drawing, ATextStandsOnItsLineBoxInItsColour) {
     EXPECT_GE(ink.left(), 10);
     EXPECT_LE(ink.right(), 10 + size.width);
     EXPECT_NEAR(60 - ink.bottom() - 1, 8 + texts.lineBox(20).descent, 1);
+}
+
+TEST_F(Drawing, PaintingWhatChangedGivesTheSamePictureAsPaintingEverything) {
+    const QSize points(240, 160);
+    const auto cells = [](int hovered, int lit, int rows) {
+        qt::DisplayList one;
+        for (int row = 0; row < rows; ++row) {
+            const Rect cell{20, 140.0 - 20 * row, 180, 20};
+            if (row == hovered) one.fill(Path::roundedRect(cell, 5), Color::systemBlueColor());
+            if (row % 3 == 0) one.fill(bar(cell.x, cell.y, cell.width, 19), Color::white(0.1));
+            const Color color = row == lit ? Color::systemTealColor() : Color::white(1);
+            one.drawText("⇧⌘", 14, color, {cell.x + 10, cell.y});
+            one.drawText("Ågrave " + std::to_string(row), 14, color, {cell.x + 60, cell.y});
+        }
+        one.finish();
+        return one;
+    };
+    const double height = points.height();
+    for (const double scale : {1.0, 1.25, 1.5}) {
+        qt::DisplayList before = cells(-1, -1, 7);
+        QImage shown = painted(before, points, scale);
+        for (const auto& [hovered, lit, rows] : {std::tuple{2, -1, 7}, {3, -1, 7}, {6, 3, 7}, {-1, 3, 7}, {0, 0, 5}}) {
+            qt::DisplayList after = cells(hovered, lit, rows);
+            const auto parts = qt::damage(before, after, height, scale, texts);
+            ASSERT_TRUE(parts);
+            QPainter painter(&shown);
+            for (const QRect& part : *parts) {
+                painter.resetTransform();
+                painter.setClipRect(part);
+                painter.fillRect(part, Qt::black);
+                painter.scale(scale, scale);
+                qt::replay(after, painter, height, scale, part, texts);
+            }
+            painter.end();
+            EXPECT_EQ(shown, painted(after, points, scale)) << hovered << " at " << scale;
+            before = std::move(after);
+        }
+        EXPECT_TRUE(qt::damage(before, before, height, scale, texts)->empty());
+    }
 }
 
 TEST_F(Drawing, MeasuringTwiceAndAfterManyOtherTextsAnswersTheSame) {
