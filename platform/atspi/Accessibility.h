@@ -36,6 +36,7 @@ private:
 
     Options options_;
     AccessibilityBus bus_;
+    SlowCaches slowCaches_;
     ReadStatistics lastRead_;
 };
 

@@ -157,7 +157,7 @@ void reportUnfinished(const RawTree& raw, const std::string& name, int processId
 }  // namespace
 
 AXError readMenus(Connection& bus, int processIdentifier, const Options& options, Deadline deadline,
-                  std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics) {
+                  SlowCaches& slowCaches, std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics) {
     const std::vector<ObjectRef> roots = rootsOfProcess(bus, processIdentifier, deadline, statistics.calls);
     for (const ObjectRef& root : roots) {
         const Application application = askApplication(bus, root, deadline, statistics.calls);
@@ -167,20 +167,20 @@ AXError readMenus(Connection& bus, int processIdentifier, const Options& options
             own = Connection::toProgram(*application.ownAddress);
         }
         KnownNodes known;
-        if (application.ownAddress) {
+        if (application.ownAddress && !slowCaches.contains(root.bus)) {
             known = readCache(own ? *own : bus, root.bus, deadline);
             ++statistics.calls;
         }
         statistics.usedCache = !known.empty();
         BusNodeSource source(own && own->isOpen() ? *own : bus, deadline);
-        auto menuBar = findKnownMenuBar(known, application.windows);
-        if (!menuBar) menuBar = findMenuBar(source, application.windows);
+        const auto menuBar = findMenuBar(source, known, application.windows);
         if (!menuBar) {
             statistics.calls += source.calls();
             continue;
         }
         const RawTree raw = MenuReader(source, known, options.baseKeyOfShifted).read(*menuBar);
         const std::string name = nameForPeople(application, processIdentifier, options);
+        if (known.size() > 2 * raw.nodes.size()) slowCaches.insert(root.bus);
         if (!raw.isComplete) reportUnfinished(raw, name, processIdentifier, deadline - options.readTime);
         statistics.calls += source.calls();
         statistics.elements = raw.nodes.size();

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "platform/atspi/Accelerator.h"
@@ -36,9 +37,13 @@ struct ReadStatistics {
     std::chrono::microseconds time{0};
 };
 
+/// Programs, by their bus name, whose cache was found to hold much besides menus: putting it together takes such a
+/// program longer than the questions that it saves.
+using SlowCaches = std::unordered_set<std::string>;
+
 /// Reads the menus of the application with this process id. On an error the tree stays as it was; a reading that its
 /// time ended is no error once there is a menu bar: what came in by then is the tree.
 AXError readMenus(Connection& bus, int processIdentifier, const Options& options, Deadline deadline,
-                  std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics);
+                  SlowCaches& slowCaches, std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics);
 
 }  // namespace orlamo::atspi

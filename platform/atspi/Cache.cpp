@@ -6,6 +6,7 @@
 #include <array>
 #include <cstring>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 #include "platform/atspi/Utf8.h"
@@ -18,6 +19,7 @@ constexpr std::size_t longestPath = 512;
 
 struct CachedObject {
     ObjectRef object;
+    ObjectRef parent;
     KnownNode node;
     std::int32_t place = -1;       // among its parent's children
     std::int32_t childCount = -1;  // -1: the older form, which lists the children
@@ -58,7 +60,7 @@ std::optional<CachedObject> readRow(sd_bus_message* message, const std::string& 
     CachedObject cached;
     ObjectRef application;
     if (!readRef(message, bus, cached.object) || !readRef(message, bus, application) ||
-        !readRef(message, bus, cached.node.parent)) {
+        !readRef(message, bus, cached.parent)) {
         return std::nullopt;
     }
     const bool hasChildren = listsChildren ? readListedChildren(message, bus, cached)
@@ -86,7 +88,7 @@ KnownNodes connect(std::vector<CachedObject> rows) {
     std::ranges::stable_sort(rows, {}, &CachedObject::place);
     std::unordered_map<ObjectRef, std::vector<ObjectRef>, ObjectRefHash> children;
     for (const CachedObject& row : rows) {
-        auto& siblings = children[known[row.object].parent];
+        auto& siblings = children[row.parent];
         if (row.place >= 0 && static_cast<std::size_t>(row.place) == siblings.size()) siblings.push_back(row.object);
     }
     for (const auto& [object, count] : counts) {

@@ -20,6 +20,7 @@ bool mayHoldMenuBar(ObjectRole role) {
         case ObjectRole::layeredPane:
         case ObjectRole::panel:
         case ObjectRole::rootPane:
+        case ObjectRole::scrollPane:
         case ObjectRole::splitPane:
         case ObjectRole::unknown:
         case ObjectRole::viewport:
@@ -33,82 +34,95 @@ bool mayHoldMenuBar(ObjectRole role) {
     }
 }
 
-/// Asks all of them at once. Nothing stands for an object that did not answer before the time was over.
-std::vector<Answer> askAll(NodeSource& source, const std::vector<ObjectRef>& objects, Question question) {
-    struct Round {
-        std::vector<Answer> answers;
-        std::size_t outstanding;
-    };
-    const auto round = std::make_shared<Round>(Round{std::vector<Answer>(objects.size()), objects.size()});
-    for (std::size_t i = 0; i < objects.size(); ++i) {
-        source.ask(objects[i], question, [round, i](Answer answer) {
-            --round->outstanding;
-            round->answers[i] = std::move(answer);
-        });
-    }
-    while (round->outstanding > 0 && source.wait()) {
-    }
-    return std::move(round->answers);
-}
+/// An object below a window, and its way there: its place among its siblings, and so on from the window down.
+struct Place {
+    ObjectRef object;
+    std::vector<std::size_t> way;
+};
 
-/// Level by level, roles first: the mere question for the children of a long table makes a program build them all.
-std::optional<ObjectRef> findUnder(NodeSource& source, const ObjectRef& window) {
-    std::unordered_set<ObjectRef, ObjectRefHash> visited{window};
-    std::vector<ObjectRef> holders{window};
-    for (int depth = 0; depth < deepest && !holders.empty(); ++depth) {
-        std::vector<ObjectRef> level;
-        for (const Answer& answer : askAll(source, holders, Question::children)) {
-            const auto* const children = std::get_if<std::vector<ObjectRef>>(&answer);
-            if (children == nullptr) continue;
-            for (const ObjectRef& child : *children) {
-                if (visited.size() < mostObjects && visited.insert(child).second) level.push_back(child);
+class Finder {
+public:
+    Finder(NodeSource& source, const KnownNodes& known, const ObjectRef& window)
+        : source_(source), known_(known), visited_{window}, holders_{{window, {}}} {}
+
+    /// Level by level, roles first: the mere question for the children of a long table makes a program build them all.
+    /// Once a menu bar is found, only what comes before it is entered.
+    std::optional<ObjectRef> find() {
+        for (int depth = 0; depth < deepest && !holders_.empty(); ++depth) {
+            const std::vector<Place> level = childrenOfHolders();
+            const std::vector<Answer> roles = askAll(level, Question::role);
+            holders_.clear();
+            for (std::size_t i = 0; i < level.size(); ++i) {
+                const auto* const number = std::get_if<std::uint64_t>(&roles[i]);
+                if (number == nullptr) continue;
+                const auto role = static_cast<ObjectRole>(*number);
+                const bool isFirst = !found_ || level[i].way < found_->way;
+                if (role == ObjectRole::menuBar && isFirst) found_ = level[i];
+                if (mayHoldMenuBar(role) && isFirst) holders_.push_back(level[i]);
             }
         }
-        const std::vector<Answer> roles = askAll(source, level, Question::role);
-        holders.clear();
-        for (std::size_t i = 0; i < level.size(); ++i) {
-            const auto* const number = std::get_if<std::uint64_t>(&roles[i]);
-            if (number == nullptr) continue;
-            const auto role = static_cast<ObjectRole>(*number);
-            if (role == ObjectRole::menuBar) return level[i];
-            if (mayHoldMenuBar(role)) holders.push_back(level[i]);
-        }
+        return found_ ? std::optional(found_->object) : std::nullopt;
     }
-    return std::nullopt;
-}
 
-/// How far below the window the object lies; none when it is not under it.
-std::optional<int> depthBelow(const KnownNodes& known, const ObjectRef& window, ObjectRef object) {
-    for (int depth = 0; depth <= deepest + 1; ++depth) {
-        if (object == window) return depth;
-        const auto node = known.find(object);
-        if (node == known.end()) return std::nullopt;
-        object = node->second.parent;
+private:
+    std::vector<Place> childrenOfHolders() {
+        std::vector<Place> level;
+        const std::vector<Answer> answers = askAll(holders_, Question::children);
+        for (std::size_t i = 0; i < answers.size(); ++i) {
+            const auto* const children = std::get_if<std::vector<ObjectRef>>(&answers[i]);
+            if (children == nullptr) continue;
+            for (std::size_t place = 0; place < children->size(); ++place) {
+                const ObjectRef& child = (*children)[place];
+                if (visited_.size() >= mostObjects || !visited_.insert(child).second) continue;
+                level.push_back({child, holders_[i].way});
+                level.back().way.push_back(place);
+            }
+        }
+        return level;
     }
-    return std::nullopt;
-}
+
+    /// Nothing stands for an object that did not answer before the time was over.
+    std::vector<Answer> askAll(const std::vector<Place>& places, Question question) {
+        struct Round {
+            std::vector<Answer> answers;
+            std::size_t outstanding = 0;
+        };
+        const auto round = std::make_shared<Round>();
+        round->answers.resize(places.size());
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            round->answers[i] = knownAnswer(places[i].object, question);
+            if (!std::holds_alternative<std::monostate>(round->answers[i])) continue;
+            ++round->outstanding;
+            source_.ask(places[i].object, question, [round, i](Answer answer) {
+                --round->outstanding;
+                round->answers[i] = std::move(answer);
+            });
+        }
+        while (round->outstanding > 0 && source_.wait()) {
+        }
+        return std::move(round->answers);
+    }
+
+    Answer knownAnswer(const ObjectRef& object, Question question) const {
+        const auto node = known_.find(object);
+        if (node == known_.end()) return {};
+        if (question == Question::role) return static_cast<std::uint64_t>(node->second.role);
+        return node->second.children ? Answer{*node->second.children} : Answer{};
+    }
+
+    NodeSource& source_;
+    const KnownNodes& known_;
+    std::unordered_set<ObjectRef, ObjectRefHash> visited_;
+    std::vector<Place> holders_;
+    std::optional<Place> found_;
+};
 
 }  // namespace
 
-std::optional<ObjectRef> findMenuBar(NodeSource& source, const std::vector<ObjectRef>& windows) {
+std::optional<ObjectRef> findMenuBar(NodeSource& source, const KnownNodes& known,
+                                     const std::vector<ObjectRef>& windows) {
     for (const ObjectRef& window : windows) {
-        if (auto bar = findUnder(source, window)) return bar;
-    }
-    return std::nullopt;
-}
-
-std::optional<ObjectRef> findKnownMenuBar(const KnownNodes& known, const std::vector<ObjectRef>& windows) {
-    for (const ObjectRef& window : windows) {
-        std::optional<ObjectRef> nearest;
-        int nearestDepth = deepest + 2;
-        for (const auto& [object, node] : known) {
-            if (node.role != ObjectRole::menuBar) continue;
-            const auto depth = depthBelow(known, window, object);
-            if (!depth || *depth >= nearestDepth) continue;
-            nearest = object;
-            nearestDepth = *depth;
-        }
-        if (nearest) return nearest;
+        if (auto bar = Finder(source, known, window).find()) return bar;
     }
     return std::nullopt;
 }

@@ -40,6 +40,7 @@ enum class ObjectRole : std::uint32_t {
     popupMenu = 41,
     radioMenuItem = 45,
     rootPane = 46,
+    scrollPane = 49,
     separator = 50,
     splitPane = 53,
     tearOffMenuItem = 59,
@@ -63,7 +64,6 @@ constexpr std::uint64_t visible = 1ULL << 30;
 /// What is known of an object before it is asked, from its toolkit's cache.
 struct KnownNode {
     std::optional<std::vector<ObjectRef>> children;  // none: the cache does not hold them all
-    ObjectRef parent;
     std::string name;
     ObjectRole role{};
     std::uint64_t states = 0;

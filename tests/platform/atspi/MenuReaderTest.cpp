@@ -91,13 +91,12 @@ TEST_F(MenuReading, ASessionMenuTakesTheFirstPlace) {
 TEST_F(MenuReading, NothingIsAskedThatTheCacheKnows) {
     const auto ref = FakeNodeSource::ref;
     source.objects = {{"new", Object{{}, "", ObjectRole::menuItem, 0, ";;<Primary>n"}}};
-    known[ref("bar")] = {{{ref("file")}}, {}, "", ObjectRole::menuBar, usable};
-    known[ref("file")] = {{{ref("new"), ref("tear")}}, ref("bar"), "File", ObjectRole::menu, usable};
-    known[ref("new")] = {std::vector<ObjectRef>{}, ref("file"), "New", ObjectRole::menuItem, usable};
-    known[ref("tear")] = {std::vector<ObjectRef>{}, ref("file"), "", ObjectRole::tearOffMenuItem, usable};
+    known[ref("bar")] = {{{ref("file")}}, "", ObjectRole::menuBar, usable};
+    known[ref("file")] = {{{ref("new"), ref("tear")}}, "File", ObjectRole::menu, usable};
+    known[ref("new")] = {std::vector<ObjectRef>{}, "New", ObjectRole::menuItem, usable};
+    known[ref("tear")] = {std::vector<ObjectRef>{}, "", ObjectRole::tearOffMenuItem, usable};
     EXPECT_EQ(text(shape()), "?[? Editor File[:[New(0N)]]]");
     EXPECT_EQ(source.asked, (std::map<Question, int>{{Question::keyBinding, 1}}));
-    EXPECT_EQ(findKnownMenuBar(known, {ref("bar")}), ref("bar"));
 }
 
 TEST_F(MenuReading, TheDeadlineLeavesWhatIsThere) {
@@ -156,10 +155,33 @@ TEST_F(MenuReading, TheMenuBarOfTheFirstWindowThatHasOneIsFoundWithoutEnteringDo
                       {"filler", Object{{"bar"}, "", ObjectRole::filler}},
                       {"bar", Object{{}, "", ObjectRole::menuBar}}};
     const auto ref = FakeNodeSource::ref;
-    EXPECT_EQ(findMenuBar(source, {ref("dialog"), ref("window")}), ref("bar"));
-    EXPECT_EQ(findMenuBar(source, {ref("dialog")}), std::nullopt);
+    EXPECT_EQ(findMenuBar(source, known, {ref("dialog"), ref("window")}), ref("bar"));
+    EXPECT_EQ(findMenuBar(source, known, {ref("dialog")}), std::nullopt);
     source.answersLeft = 2;
-    EXPECT_EQ(findMenuBar(source, {ref("window")}), std::nullopt);
+    EXPECT_EQ(findMenuBar(source, known, {ref("window")}), std::nullopt);
+}
+
+TEST_F(MenuReading, OfTwoMenuBarsTheFirstInDocumentOrderCounts) {
+    const auto pane = static_cast<ObjectRole>(49);
+    source.objects = {{"window", Object{{"top", "root"}, "", ObjectRole::frame}},
+                      {"top", Object{{"scroll"}, "", ObjectRole::panel}},
+                      {"scroll", Object{{"bar"}, "", pane}},
+                      {"bar", Object{{}, "", ObjectRole::menuBar}},
+                      {"root", Object{{"behind", "more"}, "", ObjectRole::rootPane}},
+                      {"behind", Object{{}, "", ObjectRole::menuBar}},
+                      {"more", Object{{"panel"}, "", ObjectRole::panel}},
+                      {"panel", Object{{}, "", ObjectRole::panel}}};
+    const auto ref = FakeNodeSource::ref;
+    EXPECT_EQ(findMenuBar(source, known, {ref("window")}), ref("bar"));
+    // The window, what it holds, and the scroll pane: nothing behind the first menu bar.
+    EXPECT_EQ(source.asked[Question::children], 4);
+
+    source.asked.clear();
+    for (const char* const path : {"top", "scroll", "bar", "root", "behind", "more"}) {
+        known[ref(path)].role = source.objects[path].role;
+    }
+    EXPECT_EQ(findMenuBar(source, known, {ref("window")}), ref("bar"));
+    EXPECT_EQ(source.asked[Question::role], 0);
 }
 
 }  // namespace
