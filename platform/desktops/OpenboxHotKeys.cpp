@@ -63,6 +63,23 @@ Command executedCommand(const OpenboxAction& action) {
     return commandOf(command.empty() ? option(action, "execute") : command);
 }
 
+using Row = std::pair<std::size_t, int>;  // its place in both tables, one after the other, and its ID
+
+std::vector<Row> rowsOf(const OpenboxAction& action) {
+    std::vector<Row> found;
+    std::size_t place = 0;
+    for (const auto& row : openboxRows()) {
+        if (does(action, row)) found.emplace_back(place, row.id);
+        ++place;
+    }
+    const auto command = executedCommand(action);
+    for (const auto& row : commandRows()) {
+        if (runs(command, row)) found.emplace_back(place, row.id);
+        ++place;
+    }
+    return found;
+}
+
 }  // namespace
 
 PropertyList openboxHotKeys(const std::string& configuration, SettingsSource& source) {
@@ -79,19 +96,18 @@ PropertyList openboxHotKeys(const std::string& configuration, SettingsSource& so
     }
 
     HotKeys hotKeys;
-    const auto bound = boundActions(*bindings);
-    for (const auto& row : openboxRows()) {
-        hotKeys.addAction(row.id);
-        for (const auto& [key, action] : bound) {
-            if (action != nullptr && does(*action, row)) hotKeys.add(row.id, key);
-        }
-    }
-    for (const auto& [key, action] : bound) {
+    for (const auto& row : openboxRows()) hotKeys.addAction(row.id);
+    std::map<Row, std::vector<KeyBinding>> keysOfRows;
+    const OpenboxAction* last = nullptr;
+    std::vector<Row> rows;
+    for (const auto& [key, action] : boundActions(*bindings)) {
         if (action == nullptr) continue;
-        const auto command = executedCommand(*action);
-        for (const auto& row : commandRows()) {
-            if (runs(command, row)) hotKeys.add(row.id, key);
-        }
+        if (action != last) rows = rowsOf(*action);  // once for all its keys, however long its command
+        last = action;
+        for (const auto& row : rows) keysOfRows[row].push_back(key);
+    }
+    for (const auto& [row, keys] : keysOfRows) {
+        for (const auto& key : keys) hotKeys.add(row.second, key);
     }
     return hotKeys.propertyList();
 }
