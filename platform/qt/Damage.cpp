@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "platform/qt/TextCache.h"
 
@@ -9,7 +10,7 @@ namespace orlamo::qt {
 
 namespace {
 
-constexpr std::size_t mostRectangles = 24;
+constexpr std::size_t mostRectangles = 64;
 
 Rect boxOf(const Path& path) {
     double left = HUGE_VAL;
@@ -56,17 +57,17 @@ QRect pixelsOf(const DisplayList& list, const DisplayList::Item& item, double he
     return QRectF(left, top, box.width * scale, box.height * scale).toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 
-std::optional<std::vector<QRect>> damage(const DisplayList& before, const DisplayList& after, double height,
-                                         double scale, TextCache& texts) {
+std::optional<QRegion> damage(const DisplayList& before, const DisplayList& after, double height, double scale,
+                              TextCache& texts) {
     const auto& old = before.items();
     const auto& young = after.items();
-    std::vector<QRect> result;
+    std::vector<QRect> parts;
     const auto add = [&](const DisplayList& list, const DisplayList::Item& item) {
         const QRect pixels = pixelsOf(list, item, height, scale, texts);
-        if (!result.empty() && result.back().intersects(pixels)) {
-            result.back() |= pixels;
+        if (!parts.empty() && parts.back().intersects(pixels)) {
+            parts.back() |= pixels;
         } else {
-            result.push_back(pixels);
+            parts.push_back(pixels);
         }
     };
     const auto same = [&](std::size_t i, std::size_t j) {
@@ -76,7 +77,7 @@ std::optional<std::vector<QRect>> damage(const DisplayList& before, const Displa
     std::size_t i = 0;
     std::size_t j = 0;
     while (i < old.size() || j < young.size()) {
-        if (result.size() > mostRectangles) return std::nullopt;
+        if (parts.size() > mostRectangles) return std::nullopt;
         if (same(i, j)) {
             ++i;
             ++j;
@@ -89,6 +90,8 @@ std::optional<std::vector<QRect>> damage(const DisplayList& before, const Displa
             if (j < young.size()) add(after, young[j++]);
         }
     }
+    QRegion result;
+    for (const QRect& part : parts) result += part;
     return result;
 }
 

@@ -31,19 +31,19 @@ void PanelSurface::retire() {
     deleteLater();
 }
 
-void PanelSurface::show(const std::vector<QRect>& parts, const std::function<void(QPainter&, const QRect&)>& paint) {
+void PanelSurface::show(const QRegion& part, const std::function<void(QPainter&, const QRegion&)>& paint) {
     if (store_.size() != size()) store_.resize(size());
     // The store reckons in whole points, and erases what it is told will be painted.
     const double scale = devicePixelRatio();
     QRegion points;
-    std::vector<QRect> pixels;
-    for (const QRect& part : parts) {
-        const QRectF exact(part.x() / scale, part.y() / scale, part.width() / scale, part.height() / scale);
+    QRegion pixels;
+    for (const QRect& rect : part) {
+        const QRectF exact(rect.x() / scale, rect.y() / scale, rect.width() / scale, rect.height() / scale);
         const QRect whole = exact.toAlignedRect().intersected(QRect(QPoint(), size()));
         if (whole.isEmpty()) continue;
         points += whole;
         const QRectF again(whole.x() * scale, whole.y() * scale, whole.width() * scale, whole.height() * scale);
-        pixels.push_back(again.toAlignedRect().adjusted(-1, -1, 1, 1));
+        pixels += again.toAlignedRect().adjusted(-1, -1, 1, 1);
     }
     store_.beginPaint(points);
     QPaintDevice* const device = store_.paintDevice();
@@ -52,7 +52,7 @@ void PanelSurface::show(const std::vector<QRect>& parts, const std::function<voi
         // The same pixels, addressed as such.
         QImage picture(image.bits(), image.width(), image.height(), image.bytesPerLine(), image.format());
         QPainter painter(&picture);
-        for (const QRect& part : pixels) paint(painter, part);
+        paint(painter, pixels);
     }
     store_.endPaint();
     store_.flush(points);

@@ -2,9 +2,9 @@
 
 #include <QBackingStore>
 #include <QEnterEvent>
+#include <QRegion>
 #include <QWindow>
 #include <functional>
-#include <vector>
 
 class QPainter;
 
@@ -33,10 +33,9 @@ public:
     /// Hears nothing any more; deletes itself when the event that is being handled is over.
     void retire();
 
-    /// Paints some parts of the window and shows them. `paint` is called for each, or for somewhat more than it, and
-    /// must colour all of that: a painter and a rectangle in device pixels. The rest holds what was painted last, but
-    /// nothing after a change of the window's size.
-    void show(const std::vector<QRect>& parts, const std::function<void(QPainter&, const QRect&)>& paint);
+    /// Paints a part of the window, in device pixels, and shows it. `paint` gets that part or somewhat more, and must
+    /// colour all of it. The rest holds what was painted last, but nothing after a change of the window's size.
+    void show(const QRegion& part, const std::function<void(QPainter&, const QRegion&)>& paint);
     /// Shows again what was painted last.
     void showAgain();
 

@@ -190,31 +190,29 @@ QPoint QtWindowHost::cutPixels() const {
 
 void QtWindowHost::paintAll() {
     const PixelRect native = nativePixels();
-    paint({QRect(0, 0, native.width, native.height)});
+    paint(QRect(0, 0, native.width, native.height));
 }
 
 void QtWindowHost::paintChanges() {
-    auto parts = damage(shown_, list_, window_.frame().height, scale_, texts_);
-    if (!parts) {
+    const auto part = damage(shown_, list_, window_.frame().height, scale_, texts_);
+    if (!part) {
         paintAll();
-        return;
+    } else if (!part->isEmpty()) {
+        paint(part->translated(-cutPixels()));
     }
-    for (QRect& part : *parts) part.translate(-cutPixels());
-    if (!parts->empty()) paint(*parts);
 }
 
-// Parts are the native window's pixels; the list's are the whole window's.
-void QtWindowHost::paint(const std::vector<QRect>& parts) {
+// The part is of the native window's pixels; the list's are the whole window's.
+void QtWindowHost::paint(const QRegion& wanted) {
     const QPoint cut = cutPixels();
-    surface_->show(parts, [&](QPainter& painter, const QRect& part) {
-        painter.resetTransform();
-        painter.setClipRect(part);
+    surface_->show(wanted, [&](QPainter& painter, const QRegion& part) {
+        painter.setClipRegion(part);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
         if (!backdrop_.isNull()) {
             painter.drawImage(0, 0, backdrop_);
         } else {
             const Color& color = window_.backgroundColor;
-            painter.fillRect(part, QColor::fromRgbF(color.red, color.green, color.blue, color.alpha));
+            painter.fillRect(part.boundingRect(), QColor::fromRgbF(color.red, color.green, color.blue, color.alpha));
         }
         painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
         painter.translate(-cut);

@@ -2,8 +2,8 @@
 
 #include <QImage>
 #include <QPointF>
+#include <QRegion>
 #include <memory>
-#include <vector>
 
 #include "platform/Window.h"
 #include "platform/WindowSystem.h"
@@ -45,7 +45,7 @@ private:
     void makeBackdrop();
     void paintAll();
     void paintChanges();
-    void paint(const std::vector<QRect>& parts);
+    void paint(const QRegion& part);
     QPoint cutPixels() const;
     PixelRect nativePixels() const;
     Point toWindow(QPointF position) const;

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegion>
 #include <cmath>
 
 #include "platform/qt/Damage.h"
@@ -85,13 +86,13 @@ void snapToPixels(QPainterPath& path, double scale) {
 
 }  // namespace
 
-void replay(const DisplayList& list, QPainter& painter, double height, double scale, const QRect& part,
+void replay(const DisplayList& list, QPainter& painter, double height, double scale, const QRegion& part,
             TextCache& texts) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const Color* pen = nullptr;
     for (const DisplayList::Item& item : list.items()) {
-        if (!pixelsOf(list, item, height, scale, texts).intersects(part)) continue;
+        if (!part.intersects(pixelsOf(list, item, height, scale, texts))) continue;
         const Point origin = list.origin(item);
         if (!item.path.elements.empty()) {
             QPainterPath path = toPainterPath(item.path, origin, height);
