@@ -12,7 +12,7 @@ constexpr const char* accessible = "org.a11y.atspi.Accessible";
 constexpr const char* action = "org.a11y.atspi.Action";
 constexpr const char* properties = "org.freedesktop.DBus.Properties";
 // More than is ever reported: the reader sees that there were too many.
-constexpr std::size_t mostChildren = 20'001;
+constexpr std::size_t mostChildren = 10'001;
 constexpr std::size_t longestPath = 512;
 constexpr std::size_t longestText = 64 * 1024;
 

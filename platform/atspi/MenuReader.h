@@ -38,7 +38,7 @@ struct RawTree {
 
 struct ReadLimits {
     std::uint32_t depth = 16;
-    std::size_t elements = 20'000;
+    std::size_t elements = 10'000;
 };
 
 /// Reads the elements under a menu bar with as many questions in flight as the source takes. Asks for children and key
