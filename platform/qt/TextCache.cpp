@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QRawFont>
 #include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
@@ -59,7 +60,9 @@ SetText set(std::string_view text, const QFont& font) {
 
 TextCache::TextCache() : systemFont_(QFontDatabase::systemFont(QFontDatabase::GeneralFont).families()) {
     systemFont_.setWeight(QFont::Normal);
-    if (QFontDatabase::families().isEmpty()) {
+    // The font database names families even where no font is; the boxes that stand in for one have no size.
+    const QRawFont font = QRawFont::fromFont(systemFont_);
+    if (!font.isValid() || font.pixelSize() <= 0) {
         logLine("text: no fonts are installed; the panel cannot show readable texts (install fonts-dejavu-core)");
     }
 }
