@@ -28,13 +28,15 @@ KEY = '<keybind key="{key}"><action name="Execute"><command>{command}</command><
 class DesktopSession:
     """Starts in __enter__, ends everything it started in __exit__, and nothing else."""
 
-    def __init__(self, size="1440x900x24", keys=None, server=(), config=None):
+    def __init__(self, size="1440x900x24", keys=None, server=(), config=None, shipped_keys=False):
         """`keys` maps a key in the window manager's own words ("W-d") to the shell command it runs; `server` holds
-        further words of the X server's command line; `config` maps files of the configuration folder to their text."""
+        further words of the X server's command line; `config` maps files of the configuration folder to their text.
+        With `shipped_keys` the window manager has those that it comes with, instead of `keys`."""
         self._size = size
         self._keys = keys or {}
         self._server = server
         self._config = config or {}
+        self._shipped_keys = shipped_keys
         self._started = []
         self.screen = self.session_bus = self.accessibility_bus = None
 
@@ -100,11 +102,16 @@ class DesktopSession:
         self.accessibility_bus = accessible.connect(address)
 
     def _start_window_manager(self):
+        self.start(["openbox", "--sm-disable", *self._window_manager_words()])
+        wait_until(self.screen.window_manager_runs, PATIENCE, "window manager")
+
+    def _window_manager_words(self):
+        if self._shipped_keys:
+            return []
         keys = "".join(KEY.format(key=key, command=command) for key, command in self._keys.items())
         settings = self.folder / "openbox.xml"
         settings.write_text(OPENBOX.format(keys=keys))
-        self.start(["openbox", "--sm-disable", "--config-file", str(settings)])
-        wait_until(self.screen.window_manager_runs, PATIENCE, "window manager")
+        return ["--config-file", str(settings)]
 
     def start_compositor(self):
         self.start(["picom", "--config", "/dev/null", "--backend", "xrender"])
