@@ -74,6 +74,8 @@ Reading readWithAdapter(atspi::Accessibility& accessibility, int processIdentifi
     walk(accessibility, std::get<AXUIElementRef>(menuBar), reading);
     reading.calls = accessibility.lastRead().calls;
     reading.elements = accessibility.lastRead().elements;
+    const bool isComplete = accessibility.lastRead().elementsRead == reading.elements;
+    if (!isComplete) std::printf("a reading was not finished in time\n");
     return reading;
 }
 

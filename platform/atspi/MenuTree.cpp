@@ -68,7 +68,8 @@ private:
         if (raw.states) node.isEnabled = (*raw.states & (states::enabled | states::sensitive)) != 0;
         node.role = raw.role;
         node.keyBinding = raw.keyBinding;
-        if (raw.children.empty()) node.shortcut = raw.shortcut;
+        // Before all of this is answered, the shortcut may turn out a mnemonic, or the item a submenu.
+        if (raw.isRead && raw.children.empty() && node.title) node.shortcut = raw.shortcut;
         return node;
     }
 

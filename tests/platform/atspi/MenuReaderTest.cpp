@@ -111,6 +111,24 @@ TEST_F(MenuReading, TheDeadlineLeavesWhatIsThere) {
     EXPECT_EQ(text(shapeMenus(raw, {FakeNodeSource::ref("root"), "Editor"}, {})), "?[? Editor A[:[? ?]] B[:]]");
 }
 
+TEST_F(MenuReading, AtNoMomentDoesTheDeadlineMakeAMnemonicAShortcutOrAnItemNameless) {
+    source.objects = {{"bar", Object{{"go"}, "", ObjectRole::menuBar}},
+                      {"go", Object{{"a", "b", "sub"}, "Go"}},
+                      {"a", Object{{}, "Mark", ObjectRole::menuItem, usable, "Alt+M"}},
+                      {"b", Object{{}, "Find", ObjectRole::menuItem, usable, "Ctrl+F"}},
+                      {"sub", Object{{"c", "d"}, "Code", ObjectRole::menuItem, usable, "Ctrl+K"}},
+                      {"c", Object{{}, "C", ObjectRole::menuItem, usable, "Ctrl+C"}}};
+    const FakeNodeSource whole = source;
+    for (std::size_t answers = 1; answers < 30; ++answers) {
+        source = whole;
+        source.answersLeft = answers;
+        for (const MenuNode& node : shape().nodes) {
+            if (!node.shortcut) continue;
+            EXPECT_TRUE(node.title == "Find" || node.title == "C") << answers << " " << node.title.value_or("none");
+        }
+    }
+}
+
 TEST_F(MenuReading, ATreeThatHoldsItselfIsReadOnce) {
     source.objects = {{"bar", Object{{"bar", "a"}, "", ObjectRole::menuBar}},
                       {"a", Object{{"a", "b", "bar", "b"}, "A"}},
