@@ -1,5 +1,6 @@
 #include "platform/atspi/MenuBarFinder.h"
 
+#include <algorithm>
 #include <memory>
 #include <unordered_set>
 #include <utility>
@@ -46,9 +47,10 @@ public:
         : source_(source), known_(known), visited_{window}, holders_{{window, {}}} {}
 
     /// Level by level, roles first: the mere question for the children of a long table makes a program build them all.
-    /// Once a menu bar is found, only what comes before it is entered.
+    /// Once a menu bar is found, only what comes before it is entered, and only one level further down.
     std::optional<ObjectRef> find() {
-        for (int depth = 0; depth < deepest && !holders_.empty(); ++depth) {
+        int levelsLeft = deepest;
+        while (levelsLeft-- > 0 && !holders_.empty()) {
             const std::vector<Place> level = childrenOfHolders();
             const std::vector<Answer> roles = askAll(level, Question::role);
             holders_.clear();
@@ -57,7 +59,10 @@ public:
                 if (number == nullptr) continue;
                 const auto role = static_cast<ObjectRole>(*number);
                 const bool isFirst = !found_ || level[i].way < found_->way;
-                if (role == ObjectRole::menuBar && isFirst) found_ = level[i];
+                if (role == ObjectRole::menuBar && isFirst) {
+                    if (!found_) levelsLeft = std::min(levelsLeft, 1);
+                    found_ = level[i];
+                }
                 if (mayHoldMenuBar(role) && isFirst) holders_.push_back(level[i]);
             }
         }
