@@ -87,6 +87,10 @@ bool Workspace::activateWithOptions(const RunningApplication& application, unsig
         return true;
     }
     if (returnFocus(process)) return true;
+    if (formerIsPutAway(process)) {
+        memory_.settled();
+        return false;
+    }
     for (const xcb_window_t window : recentWindows()) {
         if (windows_.applicationProcess(window) != process) continue;
         requestActivation(window);
@@ -99,13 +103,23 @@ bool Workspace::activateWithOptions(const RunningApplication& application, unsig
 bool Workspace::returnFocus(int processIdentifier) {
     const auto former = memory_.former();
     if (!former || former->processIdentifier != processIdentifier) return false;
-    memory_.settled();
     if (!windows_.setFocus(former->window)) return false;
+    memory_.settled();
     // The window manager may have made another window the active one meanwhile.
     const auto active = windows_.activeWindow();
     const xcb_window_t wanted = windows_.applicationWindow(former->window);
     if (active && *active != wanted) requestActivation(wanted);
     return true;
+}
+
+// The user may just have told the desktop to show itself, or another workspace; to bring the window back would undo
+// that.
+bool Workspace::formerIsPutAway(int processIdentifier) {
+    const auto former = memory_.former();
+    if (!former || former->processIdentifier != processIdentifier) return false;
+    const xcb_window_t window = windows_.applicationWindow(former->window);
+    const auto managed = windows_.stackedWindows();
+    return std::ranges::find(managed, window) != managed.end() && !windows_.isViewable(window);
 }
 
 void Workspace::requestActivation(xcb_window_t window) {

@@ -31,6 +31,7 @@ private:
     /// Application windows, the most recently active first.
     std::vector<xcb_window_t> recentWindows();
     bool returnFocus(int processIdentifier);
+    bool formerIsPutAway(int processIdentifier);
     void requestActivation(xcb_window_t window);
 
     Connection& connection_;

@@ -38,6 +38,11 @@ class DesktopTest(unittest.TestCase):
         time.sleep(0.55)
 
     @staticmethod
+    def settle():
+        """Long enough for whatever the program might still do about the focus, before a test says that it did not."""
+        time.sleep(1)
+
+    @staticmethod
     def point_beside(area, other):
         """A point of `area` that does not lie in `other`."""
         x, y, width, height = area

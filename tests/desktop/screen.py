@@ -91,6 +91,11 @@ class Screen:
             found = self._property(window, "WM_NAME", X.AnyPropertyType)
         return found.decode("utf-8", "replace") if isinstance(found, bytes) else (found or "")
 
+    def workspace(self):
+        """The one that is shown, from 0."""
+        found = self._property(self.root, "_NET_CURRENT_DESKTOP", Xatom.CARDINAL)
+        return found[0] if found is not None else None
+
     def active_window(self):
         found = self._property(self.root, "_NET_ACTIVE_WINDOW", Xatom.WINDOW)
         return self.display.create_resource_object("window", found[0]) if found is not None and found[0] else None

@@ -83,6 +83,34 @@ class Xfce(SystemCells):
         self.assert_a_click_shows_the_desktop()
 
 
+class Openbox(DesktopTest):
+    """A window manager without a desktop: its own keys, and what they really do."""
+
+    session_arguments = {"shipped_keys": True}
+
+    def setUp(self):
+        super().setUp()
+        self.start_program()
+        self.editor = self.session.open_editor("mousepad")
+
+    def click(self, title):
+        self.program.open_panel()
+        self.screen.click(*self.program.hover(title))
+        self.program.wait_until_closed()
+
+    def test_the_desktop_that_a_click_showed_stays_shown(self):
+        self.click("Show desktop")
+        wait_until(lambda: not self.editor.windows(), 5, "cleared desktop")
+        self.settle()
+        self.assertEqual([], self.editor.windows())
+
+    def test_the_workspace_that_a_click_went_to_stays(self):
+        self.click("Go to workspace 2")
+        wait_until(lambda: self.screen.workspace() == 1, 5, "second workspace")
+        self.settle()
+        self.assertEqual(1, self.screen.workspace())
+
+
 class NoDesktop(DesktopTest):
     def test_without_a_known_desktop_there_are_no_system_rows(self):
         self.start_program()
