@@ -19,6 +19,8 @@ test: ## build everything and run all tests
 
 bench: ## run the measurements of docs/performance.md
 	@scripts/setup build run demo test bench
+	@cmake --preset release
+	@cmake --build --preset release --target orlamo
 	@cmake --preset bench
 	@cmake --build --preset bench
 	@bench/run
