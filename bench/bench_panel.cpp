@@ -78,7 +78,7 @@ void pass(benchmark::State& state) {
         panel.record(list);
         list.finish();
         QPainter painter(&image);
-        qt::replay(list, painter, panel.height(), 1, panel.texts);
+        qt::replay(list, painter, panel.height(), 1, image.rect(), panel.texts);
     };
     QImage first = panel.image();
     draw(first);  // fits the window to its content

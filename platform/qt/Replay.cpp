@@ -84,29 +84,57 @@ void snapToPixels(QPainterPath& path, double scale) {
     }
 }
 
+// Where a text's pen stands, in device pixels of the window.
+QPoint penOf(const DisplayList& list, const DisplayList::Item& item, double height, double scale, TextCache& texts) {
+    const Point origin = list.origin(item);
+    const double baseline = height - origin.y - item.origin.y - texts.lineBox(item.pointSize).descent;
+    return {static_cast<int>(std::round((origin.x + item.origin.x) * scale)),
+            static_cast<int>(std::round(baseline * scale))};
+}
+
+const TextPicture& pictureOf(std::string_view text, const DisplayList::Item& item, QPoint pen, QRect pixels,
+                             double scale, TextCache& texts) {
+    const TextPictures::Key key{std::string(text), item.pointSize, item.color, scale};
+    if (const TextPicture* const known = texts.pictures().find(key)) return *known;
+    QImage picture(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(toQColor(item.color));
+    painter.translate(pen - pixels.topLeft());
+    painter.scale(scale, scale);
+    const SetText& set = texts.setText(text, item.pointSize);
+    for (const QGlyphRun& run : set.runs) painter.drawGlyphRun(QPointF(0, -set.baseline), run);
+    painter.end();
+    return texts.pictures().insert(key, picture, pixels.topLeft() - pen);
+}
+
 }  // namespace
 
 void replay(const DisplayList& list, QPainter& painter, double height, double scale, const QRegion& part,
             TextCache& texts) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const Color* pen = nullptr;
+    // Outlines are in points, pictures of texts in device pixels.
+    const QTransform points = painter.worldTransform();
+    const QTransform pixels = QTransform::fromTranslate(points.dx(), points.dy());
+    painter.setWorldTransform(pixels);
     for (const DisplayList::Item& item : list.items()) {
-        if (!part.intersects(pixelsOf(list, item, height, scale, texts))) continue;
-        const Point origin = list.origin(item);
+        const QRect reach = pixelsOf(list, item, height, scale, texts);
+        if (!part.intersects(reach)) continue;
         if (!item.path.elements.empty()) {
-            QPainterPath path = toPainterPath(item.path, origin, height);
+            QPainterPath path = toPainterPath(item.path, list.origin(item), height);
             snapToPixels(path, scale);
+            painter.setWorldTransform(points);
             painter.fillPath(path, toQColor(item.color));
+            painter.setWorldTransform(pixels);
             continue;
         }
-        if (pen == nullptr || !(*pen == item.color)) painter.setPen(toQColor(item.color));
-        pen = &item.color;
-        const double baseline = height - origin.y - item.origin.y - texts.lineBox(item.pointSize).descent;
-        const SetText& text = texts.setText(list.text(item), item.pointSize);
-        const QPointF at(snapped(origin.x + item.origin.x, scale), snapped(baseline, scale) - text.baseline);
-        for (const QGlyphRun& run : text.runs) painter.drawGlyphRun(at, run);
+        const QPoint pen = penOf(list, item, height, scale, texts);
+        const TextPicture& picture = pictureOf(list.text(item), item, pen, reach, scale, texts);
+        if (!picture.image.isNull()) painter.drawImage(pen + picture.offset, picture.image);
     }
+    painter.setWorldTransform(points);
 }
 
 }  // namespace orlamo::qt

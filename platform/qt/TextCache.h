@@ -10,6 +10,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "platform/qt/TextPictures.h"
+
 namespace orlamo::qt {
 
 /// One line of text, set. Positions are relative to the line's left end and baseline.
@@ -36,6 +38,8 @@ public:
     /// UTF-8; control characters are set as spaces. Valid until the next call.
     const SetText& setText(std::string_view text, int pixelSize);
     LineBox lineBox(int pixelSize);
+    /// For painting: the texts' pictures.
+    TextPictures& pictures() { return pictures_; }
 
 private:
     struct Key {
@@ -75,6 +79,7 @@ private:
     Generation younger_;
     Generation older_;
     std::size_t youngerBytes_ = 0;
+    TextPictures pictures_;
 };
 
 }  // namespace orlamo::qt
