@@ -103,7 +103,6 @@ private:
     explicit CanvasView(Rect frame);
 
     void trimAppleMenu();
-
     // CanvasViewLayout.cpp
     Layout computeLayout();
     void applyLayoutTier(std::int64_t total);
@@ -143,6 +142,7 @@ private:
     GraphicsContext* context_ = nullptr;  // while a pass runs
     std::unordered_map<std::string, std::string> shortened_;
     Rect drawnArea_;
+    bool isClosing_ = false;  // a cell was performed
     std::unique_ptr<NotificationCenter::Observation> updateObservation_;
     std::shared_ptr<CanvasView*> self_;  // for delayed tasks, which may outlive the view
 };

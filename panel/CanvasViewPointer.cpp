@@ -85,6 +85,8 @@ void CanvasView::mouseMoved(const MouseEvent& event) {
 void CanvasView::mouseDown(const MouseEvent& event) {
     View::mouseDown(event);
     logLine("Mouse Clicked at: " + describe(event.locationInWindow.x) + ", " + describe(event.locationInWindow.y));
+    // The second press of a double click may come before the panel is gone: nothing is performed twice.
+    if (isClosing_) return;
     const Point point = convertPointFromView(event.locationInWindow, nullptr);
     performApplicationCellClick(point);
     performSystemCellClick(point);
@@ -140,6 +142,7 @@ void CanvasView::performSystemCellClick(Point point) {
 }
 
 void CanvasView::closePanelSoon() {
+    isClosing_ = true;
     RunLoop::shared().asyncAfter(closingDelay, [view = std::weak_ptr<CanvasView*>(self_)] {
         const auto alive = view.lock();
         if (alive == nullptr || (*alive)->window() == nullptr) return;

@@ -80,6 +80,8 @@ void CanvasWindowController::hideShortcutWindow() {
     if (CanvasView* const canvas = canvasView()) canvas->resetPanelState();
     isShortcutWindowShown = false;
     close();
+    // The cells hold the application's menu elements: nothing of them stays until the next showing.
+    if (canvasWindow_ != nullptr) canvasWindow_->setContentView(nullptr);
     const std::string frontmost = frontmostIdentifier();
     if (!frontmostBundleIdentifier) return;
     if (frontmost != Bundle::shared().bundleIdentifier()) return;

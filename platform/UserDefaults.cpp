@@ -1,5 +1,6 @@
 #include "platform/UserDefaults.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -14,6 +15,14 @@ std::int64_t truncated(double number) {
     return std::isfinite(number) && std::fabs(number) < limit ? static_cast<std::int64_t>(number) : 0;
 }
 
+// Blanks, then a sign, then zeros do not count.
+bool startsTrue(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\n"), text.size()));
+    if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
+    text.remove_prefix(std::min(text.find_first_not_of('0'), text.size()));
+    return text.find_first_of("123456789YyTt") == 0;
+}
+
 }  // namespace
 
 bool UserDefaults::boolForKey(std::string_view key) {
@@ -22,7 +31,7 @@ bool UserDefaults::boolForKey(std::string_view key) {
     if (const auto* const number = std::get_if<std::int64_t>(&value)) return *number != 0;
     if (const auto* const number = std::get_if<double>(&value)) return *number != 0;
     if (const auto* const text = std::get_if<std::string>(&value)) {
-        return text->find_first_of("123456789YyTt") == 0;
+        return startsTrue(*text);
     }
     return false;
 }

@@ -32,7 +32,8 @@ public:
     virtual bool synchronize() = 0;
 
     // Typed reads. A value that cannot be converted reads like an absent one.
-    /// Numbers other than 0, and texts that start with a digit 1-9, Y, y, T or t, are true; absent is false.
+    /// Numbers other than 0 are true, and texts that start with a digit 1-9, Y, y, T or t, after blanks, a sign and
+    /// zeros; absent is false.
     bool boolForKey(std::string_view key);
     /// Numbers toward zero, booleans as 0 or 1, the number a text starts with; absent is 0.
     std::int64_t integerForKey(std::string_view key);

@@ -159,12 +159,39 @@ TEST_F(CanvasViewDrawing, TheApplicationsEntriesEndWithTheFirstCellThatFindsNoKe
     addSystem("Keyboard//Dock", "⌃", "SPACE", 49, 0x40000);
     open();
     EXPECT_EQ(view->currentShortM.size(), 1U);
+    for (const bool elementsEnd : {false, true}) {
+        menuItemKeyCodes.resize(elementsEnd ? 3 : 1);
+        menuItemElements.resize(elementsEnd ? 1 : 3);
+        draw();
+        EXPECT_EQ(view->currentShortM.size(), 1U);
+    }
     EXPECT_NE(context.find("Two"), nullptr) << "drawn, but without a record";
     EXPECT_EQ(context.find("Three"), nullptr);
     ASSERT_EQ(view->shortcutsM.size(), 1U);
     EXPECT_EQ(view->shortcutsM[0].keyString, "⌴");
     EXPECT_EQ(view->shortcutsM[0].keycode, 49);
     EXPECT_EQ(view->shortcutsM[0].modifierFlags, 0x40000);
+}
+
+TEST_F(CanvasViewDrawing, SystemEntriesFollowTheSameRules) {
+    desktop.bundle.strings["Dock"] = "Leiste";
+    desktop.bundle.strings["Keyboard"] = "Tastatur";
+    addItem("Save");
+    systemShortcutList.emplace_back("Keyboard");
+    addSystem("Keyboard//Dock", "⌃", "D", 2, 0x40000);
+    systemShortcutList.emplace_back(SystemShortcutRecord{"Keyboard//space", "⌃", "E"});
+    addSystem("Keyboard//No key", "⌃", "", 3, 0x40000);
+    addSystem("Keyboard//Last", "⌃", "L", 4, 0x40000);
+    systemKeyCombos.resize(2);
+    open();
+    EXPECT_NE(context.find("Leiste"), nullptr);
+    EXPECT_NE(context.find("Tastatur"), nullptr);
+    ASSERT_EQ(view->shortcutsM.size(), 1U) << "without a key there is no record, and the combinations end";
+    EXPECT_NE(context.find("Last"), nullptr) << "drawn, but without a record";
+    view->isMouseInsideRect = true;
+    view->systemHighlightedRect = view->shortcutsM[0].rect;
+    draw();
+    EXPECT_THAT(hoverFills(), ElementsAre(view->shortcutsM.at(0).rect));
 }
 
 TEST_F(CanvasViewDrawing, TheDenseTierDrawsFlatHeadingsAndSystemCellsAt14) {

@@ -39,11 +39,15 @@ INSTANTIATE_TEST_SUITE_P(
     Totals, CanvasViewTier,
     testing::Values(TierCase{0, 1, 40, 16, 13, 20, 40, false}, TierCase{1, 1, 1, 30, 14, 70, 30, false},
                     TierCase{16, 1, 16, 30, 14, 70, 30, false}, TierCase{17, 1, 17, 25, 14, 60, 40, false},
-                    TierCase{25, 1, 25, 23, 14, 100, 40, false}, TierCase{33, 1, 33, 25, 14, 80, 40, false},
-                    TierCase{36, 1, 36, 23, 14, 100, 40, false}, TierCase{37, 2, 19, 23, 14, 30, 36, false},
-                    TierCase{39, 2, 20, 25, 14, 70, 30, false}, TierCase{40, 2, 20, 22, 14, 60, 35, false},
-                    TierCase{41, 2, 21, 25, 14, 50, 40, false}, TierCase{79, 2, 40, 22, 14, 60, 40, false},
-                    TierCase{81, 3, 27, 25, 14, 30, 40, false}, TierCase{122, 4, 31, 16, 13, 20, 40, false},
+                    TierCase{24, 1, 24, 25, 14, 60, 40, false}, TierCase{25, 1, 25, 23, 14, 100, 40, false},
+                    TierCase{33, 1, 33, 25, 14, 80, 40, false}, TierCase{36, 1, 36, 23, 14, 100, 40, false},
+                    TierCase{37, 2, 19, 23, 14, 30, 36, false}, TierCase{39, 2, 20, 25, 14, 70, 30, false},
+                    TierCase{40, 2, 20, 22, 14, 60, 35, false}, TierCase{41, 2, 21, 25, 14, 50, 40, false},
+                    TierCase{67, 2, 34, 25, 14, 50, 40, false}, TierCase{68, 2, 34, 22, 14, 60, 40, false},
+                    TierCase{79, 2, 40, 22, 14, 60, 40, false}, TierCase{80, 2, 40, 25, 14, 30, 40, false},
+                    TierCase{81, 3, 27, 25, 14, 30, 40, false}, TierCase{120, 3, 40, 25, 14, 30, 40, false},
+                    TierCase{121, 4, 31, 16, 13, 20, 40, false}, TierCase{122, 4, 31, 16, 13, 20, 40, false},
+                    TierCase{124, 4, 31, 16, 13, 20, 40, false}, TierCase{125, 4, 32, 22, 14, 60, 40, false},
                     TierCase{159, 4, 40, 22, 14, 60, 40, false}, TierCase{160, 4, 40, 17, 15, 15, 40, true},
                     TierCase{200, 4, 50, 17, 15, 15, 40, true}, TierCase{201, 4, 51, 17, 14, 15, 40, true}));
 
@@ -87,6 +91,36 @@ TEST_F(CanvasViewLayout, HeadingsAndTitlelessEntriesAreMeasuredAsAPlaceholder) {
     addItem("Cut");
     open();
     EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(4 * 0.6 * 14) + 80 + 10);
+}
+
+TEST_F(CanvasViewLayout, EachColumnIsAsWideAsItsOwnWidestTitle) {
+    addItem("The widest title");
+    addItems(40);  // two columns of 21
+    desktop.bundle.strings["Name"] = "A localized name";
+    addSystem("Keyboard//Name", "⌃", "A", 0, 0x40000);
+    for (int i = 0; i < 21; ++i) addSystem("Keyboard//Other", "⌃", "A", 0, 0x40000);
+    open();
+    const auto widthOf = [](int characters, int frame) { return static_cast<int>(characters * 0.6 * 14) + frame + 10; };
+    EXPECT_EQ(view->currentShortM.at(0).rect.width, widthOf(16, 80));
+    EXPECT_EQ(view->currentShortM.at(21).rect.width, widthOf(7, 80));
+    EXPECT_EQ(view->shortcutsM.at(0).rect.width, widthOf(16, 90));
+    EXPECT_EQ(view->shortcutsM.at(21).rect.width, widthOf(5, 90));
+}
+
+TEST_F(CanvasViewLayout, InTheDenseTierTheFirstSystemColumnIsNarrower) {
+    addItems(164);  // four columns of 41
+    for (int i = 0; i < 42; ++i) addSystem("Keyboard//Other", "⌃", "A", 0, 0x40000);
+    open();
+    EXPECT_EQ(view->shortcutsM.at(0).rect.width, 5 * 9 + 75 + 10);
+    EXPECT_EQ(view->shortcutsM.at(41).rect.width, 5 * 9 + 90 + 10);
+}
+
+TEST_F(CanvasViewLayout, TheSystemAreaStartsBehindTheColumnWhereTheEntriesEnded) {
+    addItems(41);
+    menuItemKeyCodes.resize(3);
+    addSystem("Keyboard//Other", "⌃", "A", 0, 0x40000);
+    open();
+    EXPECT_EQ(view->shortcutsM.at(0).rect.x, view->currentShortM.at(0).rect.width - 10 + 50);
 }
 
 TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOver147) {

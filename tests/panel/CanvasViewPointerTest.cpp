@@ -50,6 +50,13 @@ TEST_F(CanvasViewPointer, EveryMoveAsksForAPassAndLeavingEndsTheHighlight) {
     moveTo(view->currentShortM.at(0).rect);
     EXPECT_TRUE(view->needsDisplay());
     draw();
+    view->setFrame({view->frame().x, view->frame().y, 1240, 801});
+    EXPECT_FALSE(view->currentHighlightedRect) << "a change of size ends the highlight";
+    draw();
+    moveTo(view->currentShortM.at(0).rect);
+    EXPECT_TRUE(view->currentHighlightedRect);
+    view->resetPanelState();
+    EXPECT_FALSE(view->currentHighlightedRect);
     window.pointerLeft();
     EXPECT_FALSE(view->isMouseInsideRect);
     EXPECT_TRUE(view->needsDisplay());
@@ -75,10 +82,18 @@ TEST_F(CanvasViewPointer, AClickPressesTheFirstItemOfThatTitleAndClosesThePanel)
     click(view->currentShortM.at(2).rect);
     ASSERT_EQ(desktop.accessibility.presses.size(), 1U);
     EXPECT_EQ(desktop.accessibility.presses[0], elements[1]);
-    EXPECT_TRUE(desktop.log.contains("点击了: Twice"));
-    EXPECT_TRUE(desktop.log.contains("成功执行点击操作"));
+    const std::string rect = describe(view->currentShortM.at(2).rect);
+    const auto logged = std::ranges::find(desktop.log.lines, "是这个点");
+    ASSERT_GE(desktop.log.lines.end() - logged, 7);
+    EXPECT_TRUE(logged[1].starts_with("currentLocation: ("));
+    EXPECT_THAT(std::vector<std::string>(logged + 2, logged + 7),
+                testing::ElementsAre("current: " + rect, "当前程序title:Twice", "当前程序的菜单栏点击的区域:" + rect,
+                                     "点击了: Twice", "成功执行点击操作"));
+    desktop.runLoop.advance(0.009);
+    click(view->currentShortM.at(2).rect);
+    EXPECT_EQ(desktop.accessibility.presses.size(), 1U) << "a double click performs once";
     EXPECT_TRUE(isShortcutWindowShown);
-    desktop.runLoop.advance(0.01);
+    desktop.runLoop.advance(0.001);
     EXPECT_FALSE(isShortcutWindowShown);
     EXPECT_FALSE(window.isVisible());
 }
@@ -93,17 +108,20 @@ TEST_F(CanvasViewPointer, ARefusedPressIsLoggedWithItsCodeAndClosesThePanel) {
 }
 
 TEST_F(CanvasViewPointer, AnUnknownTitleOrAnEmptyHarvestClosesThePanelWithoutAPress) {
-    addItem("Save");
-    open();
     for (const bool isEmpty : {false, true}) {
+        appMenuItems.clear();
+        addItem("Save");
+        open();
         menuItemTitles = isEmpty ? std::vector<std::string>{} : std::vector<std::string>{"Else", "Where"};
         desktop.log.lines.clear();
         click(view->currentShortM.at(0).rect);
         EXPECT_TRUE(desktop.accessibility.presses.empty());
         EXPECT_TRUE(isClosing());
-        // One title more than elements.
+        // More titles than elements.
         EXPECT_EQ(desktop.log.count("无法找到指定的键值"), isEmpty ? 0 : 1);
-        desktop.runLoop.advance(0.001);
+        desktop.runLoop.advance(1);
+        menuItemElements.clear();
+        menuItemKeyCodes.clear();
     }
 }
 
@@ -120,18 +138,24 @@ TEST_F(CanvasViewPointer, ASystemCellReplaysItsCombinationAsDownAndUp) {
         EXPECT_EQ(posted.event.flags, 0x40000U);
         EXPECT_EQ(posted.event.keyDown, isDown);
     }
-    EXPECT_TRUE(desktop.log.contains("修饰键: ⌃   按键符号: →"));
+    const Rect cell = view->shortcutsM.at(0).rect;
+    const std::string point = describe(Point{cell.x + cell.width / 2, cell.y + cell.height / 2});
+    EXPECT_THAT(
+        std::vector<std::string>(desktop.log.lines.end() - 8, desktop.log.lines.end()),
+        testing::ElementsAre("是这个点", "location: " + point, "rect: " + describe(cell), "title: Move",
+                             "frame: " + describe(cell), "修饰键: 262144", "按键: 124", "修饰键: ⌃   按键符号: →"));
     EXPECT_TRUE(isClosing());
 }
 
 TEST_F(CanvasViewPointer, AKeyThatCannotBePostedClosesThePanelAndPostsNothing) {
-    addSystem("Keyboard//No key", "⌃", "nil", -1, 0x40000);
-    addSystem("Keyboard//No mask", "", "A", 0, -5);
-    open();
     for (const std::size_t cell : {0U, 1U}) {
+        addSystem("Keyboard//No key", "⌃", "nil", -1, 0x40000);
+        addSystem("Keyboard//No mask", "", "A", 0, -5);
+        appMenuItems.clear();
+        open();
         click(view->shortcutsM.at(cell).rect);
         EXPECT_TRUE(isClosing());
-        desktop.runLoop.advance(0.001);
+        desktop.runLoop.advance(1);
     }
     EXPECT_TRUE(desktop.poster.posted.empty());
     EXPECT_TRUE(desktop.log.contains("no key to post for No key"));

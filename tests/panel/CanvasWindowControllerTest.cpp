@@ -30,6 +30,7 @@ protected:
 
 TEST_F(PanelController, OpensABorderlessDarkWindowAboveOthersAndActivatesTheProgram) {
     desktop.defaults.values["isBlurStyle"] = true;
+    desktop.defaults.values["CornerRadius"] = std::int64_t{12};
     controller.showShortcutWindow();
     const Window& panel = controller.canvasWindow();
     EXPECT_EQ(panel.frame(), (Rect{100, 100, 1240, 800}));
@@ -38,6 +39,8 @@ TEST_F(PanelController, OpensABorderlessDarkWindowAboveOthersAndActivatesTheProg
     EXPECT_EQ(panel.appearance, "NSAppearanceNameDarkAqua");
     EXPECT_FALSE(panel.isOpaque);
     EXPECT_FALSE(panel.hasShadow);
+    EXPECT_FALSE(panel.hidesOnDeactivate);
+    EXPECT_TRUE(panel.isReleasedWhenClosed);
     EXPECT_TRUE(panel.isVisible());
     EXPECT_EQ(panel.backgroundColor, Color::clearColor());
     EXPECT_EQ(desktop.application.activations.size(), 1U);
@@ -45,9 +48,12 @@ TEST_F(PanelController, OpensABorderlessDarkWindowAboveOthersAndActivatesTheProg
     ASSERT_NE(blur, nullptr);
     EXPECT_EQ(static_cast<int>(blur->material), 15);
     EXPECT_EQ(static_cast<int>(blur->state), 1);
+    EXPECT_EQ(static_cast<int>(blur->blendingMode), 1);
     EXPECT_EQ(blur->maskImage->cornerRadius, 30);
     ASSERT_NE(controller.canvasView(), nullptr);
     EXPECT_EQ(controller.canvasView()->frame().size(), (Size{1240, 800}));
+    EXPECT_EQ(controller.canvasView()->ShortcutWindowCornerRadius, 12);
+    EXPECT_EQ(controller.canvasView()->ShortcutWindowBgColor, Color::textBackgroundColor());
 }
 
 TEST_F(PanelController, WithoutBlurTheMaterialIsThePlainerOneAndTheCornersStay) {
@@ -125,9 +131,9 @@ TEST_F(PanelController, HidingBeforeAnyShowingActivatesNothing) {
 
 TEST_F(PanelController, EveryShowingStartsAnew) {
     controller.showShortcutWindow();
-    const CanvasView* const first = controller.canvasView();
-    ASSERT_NE(first, nullptr);
+    ASSERT_NE(controller.canvasView(), nullptr);
     controller.hideShortcutWindow();
+    EXPECT_EQ(controller.canvasView(), nullptr);
     controller.showShortcutWindow();
     EXPECT_EQ(menuItemKeyCodes.size(), 1U) << "nothing is left of the showing before";
     EXPECT_EQ(desktop.windows.visibleWindows(), 1);

@@ -81,6 +81,9 @@ TEST(UserDefaultsConversion, ReadsWhatConvertsAndElseLikeAnAbsentValue) {
         {std::string("true"), true, 0, "true"},
         {std::string("12 points"), true, 12, "12 points"},
         {std::string("0"), false, 0, "0"},
+        {std::string(" -01"), true, -1, " -01"},
+        {std::string("9"), true, 9, "9"},
+        {std::string(" "), false, 0, " "},
         {std::string("no"), false, 0, "no"},
         {UserDefaults::Data{1, 2}, false, 0, std::nullopt},
     };

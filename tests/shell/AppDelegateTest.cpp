@@ -54,7 +54,7 @@ TEST_F(Launch, OneMissingOrMistypedBooleanResetsAllFive) {
 
 TEST_F(Launch, FiveStoredBooleansStayAsTheyWere) {
     for (const auto& [name, initial] : initialBooleans) desktop.defaults.values[name] = !std::get<bool>(initial);
-    desktop.defaults.values["isBlurStyle"] = std::int64_t{0};
+    desktop.defaults.values["isBlurStyle"] = 0.0;
     Values before = desktop.defaults.values;
     writeDefaultValues(desktop.defaults);
     before["isBlurStyle"] = false;
@@ -73,6 +73,7 @@ TEST_F(Launch, TheColourComesBackAsItWasStoredAndElseIsTheSystems) {
 TEST_F(Launch, TheTriggerDefaultsToCommandAndAChosenOneStays) {
     desktop.defaults.values["doubleModifierKey"] = std::string("Shift");
     delegate.applicationDidFinishLaunching();
+    EXPECT_TRUE(desktop.defaults.boolForKey("isFirstLaunch"));
     EXPECT_EQ(desktop.defaults.stringForKey("doubleModifierKey"), "Shift");
     desktop.defaults.values.erase("doubleModifierKey");
     delegate.applicationDidFinishLaunching();

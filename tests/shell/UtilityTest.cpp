@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "panel/CanvasWindowController.h"
+#include "platform/NotificationCenter.h"
 #include "shell/AppDelegate.h"
 #include "shell/settings/SettingsKeys.h"
 #include "tests/doubles/FakeDesktop.h"
@@ -49,7 +50,7 @@ protected:
 TEST_F(Trigger, TwoReleasesLessThanHalfASecondApartOpenThePanel) {
     tap(command);
     EXPECT_FALSE(isShortcutWindowShown) << "the first counted release never does";
-    wait(500.5);
+    wait(500);
     tap(command);
     EXPECT_FALSE(isShortcutWindowShown);
     wait(499);
@@ -132,7 +133,10 @@ TEST_F(Trigger, WhileTheProgramIsActiveAPressAlsoRecoloursThePanel) {
     ASSERT_TRUE(isShortcutWindowShown);
     desktop.log.lines.clear();
     const Event event{.type = Event::Type::flagsChanged, .modifierFlags = shift};
+    int updates = 0;
+    const auto observation = NotificationCenter::defaultCenter().addObserver("update", [&updates] { ++updates; });
     EXPECT_EQ(desktop.monitors.deliverLocal(event).modifierFlags, shift) << "the event goes on as it came";
+    EXPECT_EQ(updates, 1);
     EXPECT_EQ(desktop.log.lines, (std::vector<std::string>{"单击修饰键。。。。。。", "修饰键状态变化: 131072"}));
     wait(2000);
     for (const std::uint64_t held : {command, none, command, none}) {
