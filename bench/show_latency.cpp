@@ -80,6 +80,7 @@ public:
         if (!seen) return false;
         std::printf("%.3f %.3f %.3f\n", released, mapped, framed);
         std::fflush(stdout);
+        std::this_thread::sleep_for(std::chrono::milliseconds(150));  // nobody is faster
         tap(keycode(XK_Escape));
         waitFor(3000, [&](const xcb_generic_event_t& event) {
             return (event.response_type & 0x7F) == XCB_UNMAP_NOTIFY &&
