@@ -41,6 +41,7 @@ class Trigger(DesktopTest):
     def test_the_next_double_press_closes_the_panel_and_one_more_opens_it(self):
         editor = self.session.open_editor("featherpad")
         self.program.open_panel()
+        self.wait_out_the_double_press()
         self.screen.double_press()
         self.program.wait_until_closed()
         wait_until(editor.is_in_front, 5, "editor in front")
