@@ -42,8 +42,8 @@ public:
     virtual void shapeRounded(NativeWindow window, int width, int height, int radius) = 0;
     /// Gives a visible window the input focus; remembers which window had it, for Workspace to return it.
     virtual void giveFocus(NativeWindow window) = 0;
-    /// Before such a window leaves the screen: if it has the focus, this program keeps it until Workspace returns it, so
-    /// that no window manager picks a window meanwhile.
+    /// Before such a window leaves the screen: if it has the focus, this program keeps it until Workspace returns it,
+    /// so that no window manager picks a window meanwhile.
     virtual void keepFocus(NativeWindow) {}
 };
 
