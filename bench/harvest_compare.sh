@@ -51,11 +51,16 @@ compare() {
     "$@" >/dev/null 2>&1 &
     application=$!
     children="$children $application"
-    timeout 30 xdotool search --sync --onlyvisible --pid "$application" >/dev/null || {
-        echo "$name: no window" >&2
-        failed=1
-        return
-    }
+    # The search fails outright when a window goes away under it, as a splash screen does.
+    tries=0
+    until timeout 30 xdotool search --sync --onlyvisible --pid "$application" >/dev/null 2>&1; do
+        tries=$((tries + 1))
+        [ "$tries" -lt 5 ] || {
+            echo "$name: no window" >&2
+            failed=1
+            return
+        }
+    done
     timeout 600 "$programs/harvest_compare" "$name" "$application" "$runs" || failed=1
     echo
     kill "$application" 2>/dev/null || true
