@@ -53,9 +53,11 @@ void CanvasView::drawAppTitle(const Layout& layout) {
     const double barWidth = static_cast<double>(layout.appEdge + (textSize >= 14 ? 10 : 0));
     const double x1 = static_cast<double>(beginPointX);
     const std::int64_t top = static_cast<std::int64_t>(frame().height) - beginPointY;
-    fillRoundedBar(x1, static_cast<double>(top + rowHeight / 2), x1 + barWidth,
-                   static_cast<double>(top + 2 * rowHeight), colorOfRect);
-    const double x = static_cast<double>(beginPointX + layout.appEdge / 2) - name.width / 2;
+    const std::int64_t barBottom = top + rowHeight / 2;
+    const std::int64_t centre = beginPointX + layout.appEdge / 2;
+    fillRoundedBar(x1, static_cast<double>(barBottom), x1 + barWidth, static_cast<double>(top + 2 * rowHeight),
+                   colorOfRect);
+    const double x = static_cast<double>(centre) - name.width / 2;
     const double y =
         frame().height - static_cast<double>(beginPointY) + 1.25 * static_cast<double>(rowHeight) - name.height / 2;
     drawText(currentAppName, textSize + titleSizeGrowth, colorOfLightText, x, y);
@@ -71,9 +73,11 @@ void CanvasView::drawSystemTitle(const Layout& layout) {
         s[0] + s[1] + s[2] + (layout.systemColumns - 1) * GlobalSpacing + (textSize >= 14 ? 10 : 0);
     const std::int64_t x1 = beginPointX + layout.appEdge + GlobalSpacing;
     const std::int64_t top = static_cast<std::int64_t>(frame().height) - beginPointY;
-    fillRoundedBar(static_cast<double>(x1), static_cast<double>(top + rowHeight / 2),
-                   static_cast<double>(x1 + barWidth), static_cast<double>(top + 2 * rowHeight), colorOfRect);
-    const double x = static_cast<double>(x1 + barWidth / 2) - size.width / 2;
+    const std::int64_t barBottom = top + rowHeight / 2;
+    const std::int64_t centre = x1 + barWidth / 2;
+    fillRoundedBar(static_cast<double>(x1), static_cast<double>(barBottom), static_cast<double>(x1 + barWidth),
+                   static_cast<double>(top + 2 * rowHeight), colorOfRect);
+    const double x = static_cast<double>(centre) - size.width / 2;
     const double y =
         frame().height - static_cast<double>(beginPointY) + 1.25 * static_cast<double>(rowHeight) - size.height / 2;
     drawText(label, textSize + titleSizeGrowth, colorOfLightText, x, y);

@@ -59,8 +59,8 @@ Point View::convertPointFromView(Point point, const View* from) const {
 
 View* View::hitTest(Point point) {
     const Point own{point.x - frame_.x, point.y - frame_.y};
-    for (auto view = subviews_.rbegin(); view != subviews_.rend(); ++view) {
-        if (View* const hit = (*view)->hitTest(own)) return hit;
+    for (std::size_t i = subviews_.size(); i-- > 0;) {
+        if (View* const hit = subviews_[i]->hitTest(own)) return hit;
     }
     return hearsPressAt(own) ? this : nullptr;
 }
