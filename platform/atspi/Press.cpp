@@ -69,6 +69,7 @@ bool isDisabled(const LiveItem& live) {
 bool becomesEnabled(Connection& bus, const MenuNode& item) {
     const Deadline deadline = deadlineIn(forwardTime);
     while (const auto live = askItem(bus, item.object, deadline)) {
+        if (!isSameItem(*live, item)) return false;
         if (!isDisabled(*live)) return true;
         std::this_thread::sleep_for(betweenLooks);
     }

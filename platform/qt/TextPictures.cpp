@@ -7,7 +7,7 @@ namespace orlamo::qt {
 
 namespace {
 
-// A panel of 500 shortcuts in two colours takes about 12 MB at a scale of 1.
+// Estimated: 500 shortcuts are 500 titles of 100 by 14 pixels, modifiers and keys, about 4 MB in each colour.
 constexpr std::size_t mostBytes = 32U << 20;
 
 QRect colouredPart(const QImage& picture) {

@@ -16,9 +16,9 @@ struct TextPicture {
     QPoint offset;  // of its upper left corner from the pen, in device pixels
 };
 
-/// Painted texts. Laying a picture down costs a tenth of blending the text's glyphs one by one, and the panel paints
-/// the same few hundred texts at every change of the held modifiers. Bounded; what is dropped is painted again when
-/// needed.
+/// Painted texts. Measured: laying pictures down, a pass of 200 cells takes about a third of its time glyph by glyph,
+/// and the panel paints the same few hundred texts at every change of the held modifiers. Bounded; what is dropped is
+/// painted again when needed.
 class TextPictures {
 public:
     struct Key {
