@@ -1,13 +1,9 @@
 #include "platform/x11/KeyTable.h"
 
 #include <xkbcommon/xkbcommon-keysyms.h>
-#include <xkbcommon/xkbcommon.h>
 
 #include <algorithm>
 #include <iterator>
-#include <string>
-
-#include "platform/x11/KeyNames.h"
 
 namespace orlamo::x11 {
 
@@ -113,8 +109,6 @@ constexpr KeyRow rows[] = {
     {126, XKB_KEY_Up},
 };
 
-constexpr std::uint16_t aboveTabKeyCode = 50;
-
 }  // namespace
 
 const KeyRow* keyRow(std::uint16_t virtualKeyCode) {
@@ -128,13 +122,6 @@ std::optional<std::uint16_t> virtualKeyCodeForKeysym(std::uint32_t keysym) {
         rows, [keysym](const KeyRow& each) { return each.keysym == keysym || each.other == keysym; });
     if (row == std::end(rows)) return std::nullopt;
     return row->virtualKeyCode;
-}
-
-std::optional<std::uint16_t> virtualKeyCodeForKeysymName(std::string_view name) {
-    // The desktops' word for the key left of 1, whatever it types.
-    if (name == "Above_Tab") return aboveTabKeyCode;
-    const xkb_keysym_t keysym = xkb_keysym_from_name(std::string(name).c_str(), XKB_KEYSYM_NO_FLAGS);
-    return virtualKeyCodeForKeysym(xkb_keysym_to_lower(keysym));
 }
 
 }  // namespace orlamo::x11

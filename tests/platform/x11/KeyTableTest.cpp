@@ -4,8 +4,6 @@
 
 #include <set>
 
-#include "platform/x11/KeyNames.h"
-
 namespace orlamo::x11 {
 namespace {
 
@@ -25,21 +23,6 @@ TEST(KeyTable, AKeysymLeadsBackToItsCode) {
         if (row == nullptr || code == 52) continue;  // 36 and 52 are the same key here
         EXPECT_EQ(virtualKeyCodeForKeysym(row->keysym), code);
     }
-}
-
-TEST(KeyNames, AcceleratorNamesBecomeVirtualKeyCodes) {
-    const struct {
-        const char* name;
-        std::optional<std::uint16_t> code;
-    } rows[] = {
-        {"a", 0},          {"A", 0},         {"Page_Up", 116},      {"Print", 105},
-        {"Above_Tab", 50}, {"KP_Add", 69},   {"F4", 118},           {"Left", 123},
-        {"space", 49},     {"Return", 36},   {"Tab", 48},           {"ISO_Left_Tab", 48},
-        {"KP_End", 83},    {"Escape", 53},   {"grave", 50},         {"Super_L", {}},
-        {"plus", {}},      {"F13", {}},      {"XF86AudioMute", {}}, {"", {}},
-        {"page up", {}},   {"NoSymbol", {}},
-    };
-    for (const auto& row : rows) EXPECT_EQ(virtualKeyCodeForKeysymName(row.name), row.code) << row.name;
 }
 
 }  // namespace
