@@ -86,7 +86,8 @@ int main(int argc, char** argv) {
     const Installed<EventPoster, x11::EventPoster> poster(*connection, keys);
     const Installed<WindowEffects, x11::WindowEffects> effects(*connection, windows, focus);
     const Installed<Workspace, x11::Workspace> workspace(*connection, windows, focus,
-                                                         bundle.adapter.bundleIdentifier());
+                                                         bundle.adapter.bundleIdentifier(),
+                                                         [](std::string_view) { return false; });
 
     qt::TextCache texts;
     qt::QtApplication program;

@@ -46,6 +46,9 @@ inline bool CFBooleanGetValue(const AXValue& value) {
     return truth != nullptr && *truth;
 }
 
+/// kAXTrustedCheckOptionPrompt: whether the system may ask the user.
+enum class AXTrustedCheckOptionPrompt { no, yes };
+
 /// Other applications' elements. A menu bar has one child per menu: a first one for the session, a second one titled
 /// with the application's name, then the application's own. Each has one child, a menu without a title, which holds the
 /// items; an item that opens a submenu holds that submenu's items itself.
@@ -71,6 +74,8 @@ public:
     virtual AXError AXUIElementPerformAction(const AXUIElementRef& element, std::string_view action) = 0;
     /// Whether this process may read other applications, without asking the user.
     virtual bool AXIsProcessTrusted() = 0;
+    /// The same answer; this desktop has no question of its own to prompt the user with.
+    bool AXIsProcessTrustedWithOptions(AXTrustedCheckOptionPrompt) { return AXIsProcessTrusted(); }
 };
 
 }  // namespace orlamo

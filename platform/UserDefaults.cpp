@@ -25,6 +25,16 @@ bool startsTrue(std::string_view text) {
 
 }  // namespace
 
+std::unique_ptr<UserDefaults::Observation> UserDefaults::addObserver(std::string keyPath,
+                                                                     std::function<void()> handler) {
+    if (std::ranges::find(observedKeys_, keyPath) == observedKeys_.end()) observedKeys_.push_back(keyPath);
+    return changes_.addObserver(std::move(keyPath), std::move(handler));
+}
+
+void UserDefaults::didChangeValueForKey(std::string_view key) {
+    changes_.post(key);
+}
+
 bool UserDefaults::boolForKey(std::string_view key) {
     const Value value = objectForKey(key);
     if (const auto* const truth = std::get_if<bool>(&value)) return *truth;

@@ -2,12 +2,14 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "platform/NotificationCenter.h"
 #include "platform/Service.h"
 
 namespace orlamo {
@@ -31,6 +33,11 @@ public:
     /// True when everything that was set is on the disk.
     virtual bool synchronize() = 0;
 
+    using Observation = NotificationCenter::Observation;
+    /// Called at every write of the key in this process, also of the value it had, and once when another program
+    /// changed it in the file. No initial call.
+    [[nodiscard]] std::unique_ptr<Observation> addObserver(std::string keyPath, std::function<void()> handler);
+
     // Typed reads. A value that cannot be converted reads like an absent one.
     /// Numbers other than 0 are true, and texts that start with a digit 1-9, Y, y, T or t, after blanks, a sign and
     /// zeros; absent is false.
@@ -40,6 +47,16 @@ public:
     /// Texts, and numbers in decimal.
     std::optional<std::string> stringForKey(std::string_view key);
     std::optional<Data> dataForKey(std::string_view key);
+
+protected:
+    /// For the adapter: the key was written or changed.
+    void didChangeValueForKey(std::string_view key);
+    /// The keys that somebody observes.
+    const std::vector<std::string>& observedKeys() const { return observedKeys_; }
+
+private:
+    NotificationCenter changes_;
+    std::vector<std::string> observedKeys_;
 };
 
 }  // namespace orlamo

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <string_view>
+#include <variant>
 #include <vector>
 
 #include "platform/Geometry.h"
 #include "platform/GraphicsContext.h"
+#include "platform/Layer.h"
 
 namespace orlamo {
 
@@ -55,6 +59,17 @@ public:
     Point convertPointFromView(Point point, const View* from) const;
     /// The deepest view under a point given in the superview's coordinates, or null.
     View* hitTest(Point point);
+
+    bool wantsLayer = false;
+    std::shared_ptr<Layer> layer;  // painted behind what the view draws; shared so that a view can keep its kind
+
+    /// Whether y grows downward in what the view holds.
+    virtual bool isFlipped() const { return false; }
+    /// A property that an interface file sets; a key that the view does not know is false.
+    using Attribute = std::variant<bool, double, std::string, Color>;
+    virtual bool setValueForKey(const Attribute&, std::string_view /*key*/) { return false; }
+    /// The file has set all of them.
+    virtual void awakeFromNib() {}
 
     void addTrackingArea(const TrackingArea& area) { trackingAreas_.push_back(area); }
     std::vector<TrackingArea>& trackingAreas() { return trackingAreas_; }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/ViewController.h"
 #include "platform/WindowController.h"
 
 namespace orlamo {
@@ -40,6 +41,13 @@ Window::Window(Rect contentRect, unsigned styleMask, Backing backing, Defer defe
 
 Window::~Window() {
     if (windowController != nullptr) windowController->setWindow(nullptr);
+    host_.reset();
+    if (contentViewController_ != nullptr) contentViewController_->view().window = nullptr;
+}
+
+void Window::setContentViewController(ViewController& controller) {
+    contentViewController_ = &controller;
+    controller.view().window = this;
 }
 
 void Window::setContentView(std::unique_ptr<View> view) {
@@ -65,6 +73,15 @@ void Window::orderFront() {
     if (host_ == nullptr) host_ = WindowSystem::shared().createHost(*this);
     isVisible_ = true;
     host_->orderFront();
+}
+
+void Window::makeKeyAndOrderFront() {
+    orderFront();
+    host_->makeKey();
+}
+
+void Window::performClose() {
+    if (windowController == nullptr || windowController->windowShouldClose()) close();
 }
 
 void Window::close() {

@@ -9,12 +9,17 @@
 
 namespace orlamo {
 
+class ViewController;
 class WindowController;
 
 /// A window of plain C++: its properties and its view tree. Its host (from WindowSystem) shows it.
 class Window {
 public:
     static constexpr unsigned borderless = 0;
+    static constexpr unsigned titled = 1;
+    static constexpr unsigned closable = 2;
+    static constexpr unsigned miniaturizable = 4;
+    static constexpr unsigned resizable = 8;
     enum class Backing { retained = 0, nonretained = 1, buffered = 2 };
     enum class Defer { no, yes };
 
@@ -33,6 +38,8 @@ public:
     const Rect& frame() const { return frame_; }
     bool isVisible() const { return isVisible_; }
 
+    std::string title;
+    Size minSize;            // points, of the content
     std::string appearance;  // an NSAppearanceName text; empty follows the desktop
     int level = normalLevel;
     bool isOpaque = true;
@@ -46,12 +53,20 @@ public:
     /// Takes the view and sizes it to the content area.
     void setContentView(std::unique_ptr<View> view);
 
+    /// Shows the controller's view instead of a content view; the controller must outlive the window.
+    void setContentViewController(ViewController& controller);
+    ViewController* contentViewController() const { return contentViewController_; }
+
     /// Keeps the upper left corner, as windows do. Sizes the content view too.
     void setContentSize(Size size);
     /// Centres the window on the main screen; without one it stays.
     void center();
     void orderFront();
+    /// To the front, with the input focus.
+    void makeKeyAndOrderFront();
     void close();
+    /// What the user's close button does: the controller may refuse.
+    void performClose();
 
     // For the host.
     /// Draws the content view; nothing while there is none.
@@ -73,6 +88,7 @@ private:
     Defer defer_;
     bool isVisible_ = false;
     std::unique_ptr<View> contentView_;
+    ViewController* contentViewController_ = nullptr;
     std::unique_ptr<WindowHost> host_;
 };
 

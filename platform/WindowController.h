@@ -18,6 +18,7 @@ public:
         window_ = window;
         if (window_ != nullptr) window_->windowController = this;
     }
+    virtual bool windowShouldClose() { return true; }
     /// Closes the window if there is one.
     void close() {
         if (window_ != nullptr) window_->close();

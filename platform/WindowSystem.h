@@ -26,6 +26,8 @@ public:
     virtual void frameChanged(const Rect& frame) = 0;
     /// Runs a drawing pass first, so that the window appears at its final place and size.
     virtual void orderFront() = 0;
+    /// Gives a window that is in front the input focus.
+    virtual void makeKey() {}
     virtual void orderOut() = 0;
     /// Some view wants a drawing pass; the host runs one soon, however often it was asked.
     virtual void setNeedsDisplay() = 0;

@@ -28,6 +28,10 @@ public:
     virtual std::vector<RunningApplication> runningApplicationsWithBundleIdentifier(std::string_view identifier) = 0;
     /// Brings the application to the front: the window that had the focus last gets it again. False: no such window.
     virtual bool activateWithOptions(const RunningApplication& application, unsigned options) = 0;
+
+    /// Opens the address with the program that the desktop has for its scheme, or the part of the desktop's settings it
+    /// names. False: not an address, or nothing opens it.
+    virtual bool openURL(std::string_view address) = 0;
 };
 
 }  // namespace orlamo

@@ -3,7 +3,7 @@
 #include "platform/EventMonitors.h"
 #include "platform/Log.h"
 #include "platform/WindowSystem.h"
-#include "shell/Utility.h"
+#include "shell/utility/Utility.h"
 #include "shell/settings/Settings.h"
 
 namespace orlamo {

@@ -11,6 +11,8 @@ namespace orlamo::qt {
 class QtApplication final : public Application {
 public:
     void activate(IgnoringOtherApps ignoring) override;
+    void setActivationPolicy(ActivationPolicy) override {}
+    void terminate() override {}
 
     // For the windows' hosts.
     /// The window is viewable and in front of the others.

@@ -17,6 +17,9 @@ public:
     /// A key-down presses the modifiers that are not held yet and the key; the key-up of the same code releases just
     /// those. A key-up without its key-down does nothing.
     void CGEventPost(EventTapLocation tap, const KeyboardEvent& event) override;
+    /// Drops it. The X server has one pointer for all: a press without its release would leave the user with a button
+    /// that every program takes for held.
+    void CGEventPost(EventTapLocation, const PointerEvent&) override {}
 
 private:
     void press(const KeyboardEvent& event);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "platform/EventPoster.h"
@@ -15,7 +16,10 @@ public:
 
     void CGEventPost(EventTapLocation tap, const KeyboardEvent& event) override { posted.push_back({tap, event}); }
 
+    void CGEventPost(EventTapLocation tap, const PointerEvent& event) override { pointer.push_back({tap, event}); }
+
     std::vector<Posted> posted;
+    std::vector<std::pair<EventTapLocation, PointerEvent>> pointer;
 
 private:
     Installation installation_{*this};

@@ -18,10 +18,12 @@ public:
     void setObject(std::string_view key, Value value) override {
         values.insert_or_assign(std::string(key), std::move(value));
         ++writes;
+        didChangeValueForKey(key);
     }
     void removeObject(std::string_view key) override {
         const auto found = values.find(key);
         if (found != values.end()) values.erase(found);
+        didChangeValueForKey(key);
     }
     bool synchronize() override {
         ++synchronizations;

@@ -16,6 +16,7 @@ struct FakeWindowRecord {
     std::vector<Rect> frames;
     int orderFronts = 0;
     int orderOuts = 0;
+    int makeKeys = 0;
     int displayRequests = 0;
     bool isOnScreen = false;
     bool isHosted = true;  // false once the host is gone
@@ -39,6 +40,7 @@ public:
         ++record_->orderOuts;
         record_->isOnScreen = false;
     }
+    void makeKey() override { ++record_->makeKeys; }
     void setNeedsDisplay() override { ++record_->displayRequests; }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -28,11 +29,20 @@ public:
         return activationSucceeds;
     }
 
+    bool openURL(std::string_view address) override {
+        opened.emplace_back(address);
+        if (onOpen) onOpen(opened.back());
+        return openingSucceeds;
+    }
+
     std::optional<RunningApplication> frontmost;
     std::vector<RunningApplication> running;  // the most recently active first
     bool activationSucceeds = true;
     std::vector<std::pair<int, unsigned>> activations;  // process id, options
     std::function<void(const RunningApplication&)> onActivate;
+    std::vector<std::string> opened;  // addresses
+    bool openingSucceeds = true;
+    std::function<void(const std::string&)> onOpen;
 
 private:
     Installation installation_{*this};

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "shell/Utility.h"
+#include "shell/utility/Utility.h"
 #include "shell/settings/Settings.h"
 #include "tests/doubles/FakeDesktop.h"
 

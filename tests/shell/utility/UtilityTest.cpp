@@ -1,11 +1,10 @@
-#include "shell/Utility.h"
+#include "shell/utility/Utility.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "panel/CanvasWindowController.h"
 #include "platform/NotificationCenter.h"
-#include "shell/AppDelegate.h"
 #include "shell/settings/SettingsKeys.h"
 #include "tests/doubles/FakeDesktop.h"
 
@@ -27,10 +26,10 @@ protected:
         static double start = 1'700'000'000;
         desktop.clock.now = start += 1000;
         desktop.openEditor({FakeAccessibility::item("Save", "S")});
-        utility.startMonitoring(delegate.canvasWindowController);
+        utility.startMonitoring(controller);
         choose("Command");
     }
-    ~Trigger() override { delegate.canvasWindowController.hideShortcutWindow(); }
+    ~Trigger() override { controller.hideShortcutWindow(); }
 
     void choose(const std::string& name) { desktop.defaults.values["doubleModifierKey"] = name; }
     void flags(std::uint64_t held) {
@@ -43,7 +42,8 @@ protected:
     void wait(double milliseconds) { desktop.clock.now += milliseconds / 1000; }
 
     FakeDesktop desktop;
-    AppDelegate delegate;
+    ApplicationDelegate delegate;
+    CanvasWindowController controller;
     Utility utility{delegate};
 };
 
@@ -81,7 +81,7 @@ TEST_F(Trigger, EachOfTheThreeModifiersCanBeChosenAndTheOthersThenDoNothing) {
             EXPECT_EQ(isShortcutWindowShown, pressed.modifier == chosen.modifier) << chosen.name << pressed.name;
             if (isShortcutWindowShown) {
                 EXPECT_TRUE(desktop.log.contains(chosen.message));
-                delegate.canvasWindowController.hideShortcutWindow();
+                controller.hideShortcutWindow();
             }
         }
     }

@@ -9,7 +9,7 @@
 
 namespace orlamo {
 
-class AppDelegate;
+class ApplicationDelegate;
 class CanvasWindowController;
 
 /// What the trigger remembers of one modifier. One per trigger modifier, whichever is configured.
@@ -23,9 +23,9 @@ class Utility {
 public:
     /// Created on first use, when the application's delegate must exist.
     static Utility& shared();
-    explicit Utility(AppDelegate& delegate);
+    explicit Utility(ApplicationDelegate& delegate);
 
-    AppDelegate& appDelegate;
+    ApplicationDelegate& appDelegate;
 
     /// Installs the monitors that open, close and recolour the panel; they stay for the life of the process.
     void startMonitoring(CanvasWindowController& controller);

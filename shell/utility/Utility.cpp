@@ -1,16 +1,16 @@
-#include "shell/Utility.h"
+#include "shell/utility/Utility.h"
 
 #include <array>
 
 #include "panel/CanvasView.h"
 #include "panel/CanvasWindowController.h"
+#include "platform/Application.h"
 #include "platform/Bundle.h"
 #include "platform/Clock.h"
 #include "platform/Log.h"
 #include "platform/LoginItems.h"
 #include "platform/NotificationCenter.h"
 #include "platform/UserDefaults.h"
-#include "shell/AppDelegate.h"
 #include "shell/settings/Settings.h"
 
 namespace orlamo {
@@ -43,11 +43,11 @@ void togglePanel(CanvasWindowController& controller) {
 }  // namespace
 
 Utility& Utility::shared() {
-    static Utility utility(*AppDelegate::current());
+    static Utility utility(*Application::shared().delegate);
     return utility;
 }
 
-Utility::Utility(AppDelegate& delegate) : appDelegate(delegate) {}
+Utility::Utility(ApplicationDelegate& delegate) : appDelegate(delegate) {}
 
 void Utility::startMonitoring(CanvasWindowController& controller) {
     EventMonitors& monitors = EventMonitors::shared();

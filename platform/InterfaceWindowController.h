@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/ViewController.h"
+#include "platform/WindowController.h"
+
+namespace orlamo {
+
+/// Owns a window that an interface file describes, and the controller of what it shows. Closing the window hides it.
+class InterfaceWindowController : public WindowController {
+public:
+    InterfaceWindowController(std::string interfaceName, std::unique_ptr<ViewController> contentViewController);
+    ~InterfaceWindowController() override;
+
+    ViewController& contentViewController() { return *content_; }
+    /// Loads the window at the first call, then windowDidLoad runs; brings it to the front, with the focus.
+    void showWindow();
+
+    virtual void windowDidLoad() {}
+
+private:
+    void loadWindow();
+
+    std::string interfaceName_;
+    std::unique_ptr<ViewController> content_;
+    std::unique_ptr<Window> ownWindow_;
+};
+
+}  // namespace orlamo
