@@ -85,8 +85,7 @@ int main(int argc, char** argv) {
     const Installed<EventMonitors, x11::EventMonitors> monitors(*connection, keys, windows);
     const Installed<EventPoster, x11::EventPoster> poster(*connection, keys);
     const Installed<WindowEffects, x11::WindowEffects> effects(*connection, windows, focus);
-    const Installed<Workspace, x11::Workspace> workspace(*connection, windows, focus,
-                                                         bundle.adapter.bundleIdentifier(),
+    const Installed<Workspace, x11::Workspace> workspace(*connection, windows, focus, bundle.adapter.bundleIdentifier(),
                                                          [](std::string_view) { return false; });
 
     qt::TextCache texts;

@@ -3,8 +3,8 @@
 #include "platform/EventMonitors.h"
 #include "platform/Log.h"
 #include "platform/WindowSystem.h"
-#include "shell/utility/Utility.h"
 #include "shell/settings/Settings.h"
+#include "shell/utility/Utility.h"
 
 namespace orlamo {
 

@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "shell/utility/Utility.h"
 #include "shell/settings/Settings.h"
+#include "shell/utility/Utility.h"
 #include "tests/doubles/FakeDesktop.h"
 
 namespace orlamo {
