@@ -27,7 +27,7 @@ bool startsTrue(std::string_view text) {
 
 std::unique_ptr<UserDefaults::Observation> UserDefaults::addObserver(std::string keyPath,
                                                                      std::function<void()> handler) {
-    if (std::ranges::find(observedKeys_, keyPath) == observedKeys_.end()) observedKeys_.push_back(keyPath);
+    willObserveKey(keyPath);
     return changes_.addObserver(std::move(keyPath), std::move(handler));
 }
 

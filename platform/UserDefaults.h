@@ -51,12 +51,11 @@ public:
 protected:
     /// For the adapter: the key was written or changed.
     void didChangeValueForKey(std::string_view key);
-    /// The keys that somebody observes.
-    const std::vector<std::string>& observedKeys() const { return observedKeys_; }
+    /// For the adapter: somebody is about to observe the key.
+    virtual void willObserveKey(const std::string& /*key*/) {}
 
 private:
     NotificationCenter changes_;
-    std::vector<std::string> observedKeys_;
 };
 
 }  // namespace orlamo

@@ -87,8 +87,46 @@ void JsonUserDefaults::setObject(std::string_view key, Value value) {
         logLine("settings: " + name + ": a number that is not finite cannot be stored");
         return;
     }
-    unsaved_.insert_or_assign(std::move(name), std::move(value));
+    const auto observed = observed_.find(name);
+    if (observed != observed_.end()) observed->second = value;
+    unsaved_.insert_or_assign(name, std::move(value));
     flush();
+    if (observed == observed_.end()) return;
+    if (!watch_.isWatching()) watch();  // the folder may exist only now
+    didChangeValueForKey(name);
+}
+
+void JsonUserDefaults::willObserveKey(const std::string& key) {
+    observed_.emplace(key, objectForKey(key));
+    if (!watch_.isWatching()) watch();
+}
+
+void JsonUserDefaults::watch() {
+    watch_.start(file_.path(), [this] { fileMayHaveChanged(); });
+}
+
+// Some programs remove or empty a file before they write it anew: what stands there a moment later is what they mean.
+void JsonUserDefaults::fileMayHaveChanged() {
+    constexpr double settlingSeconds = 0.05;
+    if (pendingReport_ != nullptr) return;
+    pendingReport_ = std::make_shared<bool>(true);
+    RunLoop::shared().asyncAfter(settlingSeconds, [this, pending = std::weak_ptr<bool>(pendingReport_)] {
+        if (!pending.expired()) reportChanges();
+    });
+}
+
+// What this process wrote itself is known already; what is left came from outside.
+void JsonUserDefaults::reportChanges() {
+    pendingReport_.reset();
+    if (!watch_.isWatching()) watch();
+    std::vector<std::string> changed;
+    for (auto& [key, last] : observed_) {
+        Value now = objectForKey(key);
+        if (now == last) continue;
+        last = std::move(now);
+        changed.push_back(key);
+    }
+    for (const std::string& key : changed) didChangeValueForKey(key);
 }
 
 void JsonUserDefaults::removeObject(std::string_view key) {

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 
 #include "platform/UserDefaults.h"
+#include "platform/qt/FileWatch.h"
 #include "platform/qt/SettingsFile.h"
 #include "platform/qt/SettingsJson.h"
 
@@ -23,6 +25,9 @@ public:
     void removeObject(std::string_view key) override;
     bool synchronize() override;
 
+protected:
+    void willObserveKey(const std::string& key) override;
+
 private:
     struct Parsed {
         SettingsJson settings;
@@ -33,13 +38,19 @@ private:
     void refresh();
     bool flush();
     void complain(const std::string& error);
+    void watch();
+    void fileMayHaveChanged();
+    void reportChanges();
 
     SettingsFile file_;
     bool wasRead_ = false;
     SettingsJson stored_;
     std::map<std::string, Value, std::less<>> unsaved_;  // set here and not on the disk yet
     std::string lastComplaint_;
-    bool mustWrite_ = false;  // the last write failed, perhaps after the file was replaced
+    FileWatch watch_;
+    std::shared_ptr<bool> pendingReport_;                 // a look at the file is due
+    std::map<std::string, Value, std::less<>> observed_;  // what the observers were told last
+    bool mustWrite_ = false;                              // the last write failed, perhaps after the file was replaced
 };
 
 }  // namespace orlamo::qt
