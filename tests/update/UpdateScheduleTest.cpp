@@ -1,0 +1,142 @@
+#include "update/UpdateSchedule.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+
+#include "tests/doubles/FakeClock.h"
+#include "tests/doubles/FakeLog.h"
+#include "tests/doubles/FakeUserDefaults.h"
+#include "update/UpdaterDelegate.h"
+
+namespace orlamo {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class UpdateScheduleTest : public testing::Test {
+protected:
+    ~UpdateScheduleTest() override { useTimeZone("UTC0"); }
+
+    static void useTimeZone(const char* zone) {
+        setenv("TZ", zone, 1);
+        tzset();
+    }
+    bool isDue(UserDefaults::Value stamp, double now) {
+        defaults.values["LastUpdateCheckDate"] = std::move(stamp);
+        clock.now = now;
+        log.lines.clear();
+        return UpdateSchedule::shouldCheckForUpdates();
+    }
+    std::string stampAt(double now) {
+        clock.now = now;
+        UpdateSchedule::recordUpdateCheckDate();
+        return std::get<std::string>(defaults.values.at("LastUpdateCheckDate"));
+    }
+
+    FakeLog log;
+    FakeClock clock;
+    FakeUserDefaults defaults;
+};
+
+constexpr double stamped = 1709618829;  // 2024-03-05T14:07:09+0800
+
+TEST_F(UpdateScheduleTest, ACheckIsDueOnceTheStampIsMoreThanFiveDaysOld) {
+    const struct {
+        double age;
+        bool due;
+    } cases[]{{432000.001, true}, {432001, true}, {1e9, true}, {432000, false},
+              {431999, false},    {0, false},     {-1, false}, {-1e9, false}};
+    for (const auto& [age, due] : cases) {
+        EXPECT_EQ(isDue(std::string("2024-03-05T14:07:09+0800"), stamped + age), due) << age;
+        EXPECT_EQ(log.lines,
+                  Lines{due ? "现在是否是应用程序更新的时候？ true" : "现在是否是应用程序更新的时候？ false"});
+    }
+}
+
+TEST_F(UpdateScheduleTest, WithoutAReadableStampACheckIsDueAndNothingIsLogged) {
+    const UserDefaults::Value unusable[]{std::monostate{}, true, std::int64_t{1709618829}, stamped,
+                                         UserDefaults::Data{'2', '0'}};
+    for (const auto& value : unusable) {
+        EXPECT_TRUE(isDue(value, stamped)) << value.index();
+        EXPECT_EQ(log.lines, Lines{}) << value.index();
+    }
+    for (const char* const text : {"",
+                                   "yesterday",
+                                   "2024-03-05",
+                                   "2024-03-05T14:07:09",
+                                   "2024-03-05T14:07:09Z",
+                                   "2024-03-05T14:07:09+08:00",
+                                   "2024-03-05T14:07:09+0800 ",
+                                   " 2024-03-05T14:07:09+0800",
+                                   "2024-03-05 14:07:09+0800",
+                                   "2024-02-30T14:07:09+0800",
+                                   "2023-02-29T14:07:09+0800",
+                                   "2024-00-05T14:07:09+0800",
+                                   "2024-13-05T14:07:09+0800",
+                                   "2024-03-00T14:07:09+0800",
+                                   "2024-03-05T24:07:09+0800",
+                                   "2024-03-05T14:60:09+0800",
+                                   "2024-03-05T14:07:60+0800",
+                                   "2024-03-05T14:07:09+2400",
+                                   "2024-03-05T14:07:09+0860",
+                                   "2024-03-05T14:07:09*0800",
+                                   "2024-03-05T14:07:0a+0800",
+                                   "2024-03-05T14:07:+9+0800"}) {
+        EXPECT_TRUE(isDue(std::string(text), stamped)) << text;
+        EXPECT_EQ(log.lines, Lines{}) << text;
+    }
+}
+
+TEST_F(UpdateScheduleTest, TheStampCarriesTheLocalTimeAndItsOffset) {
+    const struct {
+        const char* zone;
+        double now;
+        const char* text;
+    } cases[]{
+        {"UTC0", 0, "1970-01-01T00:00:00+0000"},
+        {"CST-8", stamped + 0.999, "2024-03-05T14:07:09+0800"},
+        {"IST-5:30", stamped, "2024-03-05T11:37:09+0530"},
+        {"NPT-5:45", stamped, "2024-03-05T11:52:09+0545"},
+        {"NST3:30NDT,M3.2.0,M11.1.0", stamped, "2024-03-05T02:37:09-0330"},
+        {"NST3:30NDT,M3.2.0,M11.1.0", stamped + 30 * 86400, "2024-04-04T03:37:09-0230"},
+        {"UTC0", 1709164800, "2024-02-29T00:00:00+0000"},
+    };
+    for (const auto& [zone, now, text] : cases) {
+        useTimeZone(zone);
+        EXPECT_EQ(stampAt(now), text);
+        EXPECT_EQ(log.lines.back(), std::string("应用程序更新检查已完成，时间：") + text);
+    }
+}
+
+// The clocks go forward and back between the two launches; five days stay five days, wherever the user is by then.
+TEST_F(UpdateScheduleTest, AStampKeepsItsMomentWhenTheLocalTimeShifts) {
+    const double spring = 1711846800, autumn = 1729990800;  // 2024-03-31 and 2024-10-27, 01:00 UTC
+    for (const double change : {spring, autumn}) {
+        for (const double before : {-432000.0, -3600.0, -1.0, 0.0, 3599.0}) {
+            useTimeZone("CET-1CEST,M3.5.0,M10.5.0/3");
+            const std::string stamp = stampAt(change + before);
+            EXPECT_FALSE(isDue(stamp, change + before + 432000)) << stamp;
+            useTimeZone("NST3:30NDT,M3.2.0,M11.1.0");
+            EXPECT_TRUE(isDue(stamp, change + before + 432001)) << stamp;
+        }
+    }
+}
+
+TEST_F(UpdateScheduleTest, RecordingOverwritesAStampFromTheFuture) {
+    EXPECT_FALSE(isDue(std::string("2099-01-01T00:00:00+0000"), stamped));
+    EXPECT_EQ(stampAt(stamped), "2024-03-05T06:07:09+0000");
+}
+
+TEST_F(UpdateScheduleTest, OnlyTheSettingAllowsTheBetaChannel) {
+    UpdaterDelegate delegate;
+    EXPECT_EQ(delegate.allowedChannelsForUpdater(), std::set<std::string>{});
+    defaults.values["isBetaChannel"] = true;
+    EXPECT_EQ(delegate.allowedChannelsForUpdater(), std::set<std::string>{"beta"});
+    defaults.values["isBetaChannel"] = false;
+    EXPECT_EQ(delegate.allowedChannelsForUpdater(), std::set<std::string>{});
+}
+
+}  // namespace
+}  // namespace orlamo
