@@ -46,8 +46,8 @@ inline bool CFBooleanGetValue(const AXValue& value) {
     return truth != nullptr && *truth;
 }
 
-/// kAXTrustedCheckOptionPrompt: whether the system may ask the user.
-enum class AXTrustedCheckOptionPrompt { no, yes };
+/// Whether the system may ask the user.
+enum class kAXTrustedCheckOptionPrompt { no, yes };
 
 /// Other applications' elements. A menu bar has one child per menu: a first one for the session, a second one titled
 /// with the application's name, then the application's own. Each has one child, a menu without a title, which holds the
@@ -75,7 +75,7 @@ public:
     /// Whether this process may read other applications, without asking the user.
     virtual bool AXIsProcessTrusted() = 0;
     /// The same answer; this desktop has no question of its own to prompt the user with.
-    bool AXIsProcessTrustedWithOptions(AXTrustedCheckOptionPrompt) { return AXIsProcessTrusted(); }
+    bool AXIsProcessTrustedWithOptions(kAXTrustedCheckOptionPrompt) { return AXIsProcessTrusted(); }
 };
 
 }  // namespace orlamo

@@ -8,11 +8,8 @@ namespace orlamo::WebPages {
 
 std::string address(std::string_view page) {
     const PropertyList pages = Bundle::shared().infoDictionaryValue("WebPages");
-    if (const auto* const dictionary = pages.get<PropertyList::Dictionary>()) {
-        const auto found = dictionary->find(page);
-        const auto* const text = found != dictionary->end() ? found->second.get<std::string>() : nullptr;
-        if (text != nullptr) return *text;
-    }
+    const PropertyList* const entry = pages.at(page);
+    if (const auto* const text = entry != nullptr ? entry->get<std::string>() : nullptr) return *text;
     logLine("the information dictionary has no address for the page " + std::string(page));
     return "";
 }
