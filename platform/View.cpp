@@ -1,5 +1,7 @@
 #include "platform/View.h"
 
+#include <utility>
+
 #include "platform/Window.h"
 
 namespace orlamo {
@@ -32,7 +34,10 @@ View& View::addSubview(std::unique_ptr<View> view) {
 void View::setNeedsDisplay(bool needed) {
     needsDisplay_ = needed;
     if (!needed) return;
-    if (Window* const in = window()) in->viewNeedsDisplay();
+    const View* root = this;
+    while (root->superview_ != nullptr) root = root->superview_;
+    if (root->window_ != nullptr) root->window_->viewNeedsDisplay();
+    if (root->displayIsNeeded) root->displayIsNeeded();
 }
 
 void View::display(GraphicsContext& context) {
@@ -63,6 +68,22 @@ View* View::hitTest(Point point) {
         if (View* const hit = subviews_[i]->hitTest(own)) return hit;
     }
     return hearsPressAt(own) ? this : nullptr;
+}
+
+void View::trackPointer(const Point* pointInWindow) {
+    for (std::size_t i = 0; i < trackingAreas_.size(); ++i) {
+        TrackingArea& area = trackingAreas_[i];
+        const MouseEvent event{pointInWindow != nullptr ? *pointInWindow : Point{}};
+        const bool inside =
+            pointInWindow != nullptr && area.rect.contains(convertPointFromView(*pointInWindow, nullptr));
+        const unsigned options = area.options;
+        const bool wasInside = std::exchange(area.pointerInside, inside);
+        if ((options & TrackingArea::mouseEnteredAndExited) != 0 && inside != wasInside) {
+            inside ? mouseEntered(event) : mouseExited(event);
+        }
+        if ((options & TrackingArea::mouseMoved) != 0 && inside) mouseMoved(event);
+    }
+    for (const auto& subview : subviews_) subview->trackPointer(pointInWindow);
 }
 
 void GraphicsContext::pushView(const View& view) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -73,6 +74,12 @@ public:
 
     void addTrackingArea(const TrackingArea& area) { trackingAreas_.push_back(area); }
     std::vector<TrackingArea>& trackingAreas() { return trackingAreas_; }
+
+    // For what hosts the view tree: a Window, or something whose coordinates then stand for a window's.
+    /// Tells the tree where the pointer is, in the window's coordinates; null means outside.
+    void trackPointer(const Point* pointInWindow);
+    /// Asked of the tree's root whenever a view in it is marked.
+    std::function<void()> displayIsNeeded;
 
     virtual void drawRect(GraphicsContext& context, const Rect& dirty);
     virtual void resizeSubviewsWithOldSize(Size oldSize);

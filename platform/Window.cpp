@@ -17,23 +17,6 @@ bool anyNeedsDisplay(const View& view) {
     return false;
 }
 
-// Tells a view tree where the pointer is; no position means outside the window.
-void track(View& view, const Point* pointInWindow) {
-    for (std::size_t i = 0; i < view.trackingAreas().size(); ++i) {
-        TrackingArea& area = view.trackingAreas()[i];
-        const MouseEvent event{pointInWindow != nullptr ? *pointInWindow : Point{}};
-        const bool inside =
-            pointInWindow != nullptr && area.rect.contains(view.convertPointFromView(*pointInWindow, nullptr));
-        const unsigned options = area.options;
-        const bool wasInside = std::exchange(area.pointerInside, inside);
-        if ((options & TrackingArea::mouseEnteredAndExited) != 0 && inside != wasInside) {
-            inside ? view.mouseEntered(event) : view.mouseExited(event);
-        }
-        if ((options & TrackingArea::mouseMoved) != 0 && inside) view.mouseMoved(event);
-    }
-    for (const auto& subview : view.subviews()) track(*subview, pointInWindow);
-}
-
 }  // namespace
 
 Window::Window(Rect contentRect, unsigned styleMask, Backing backing, Defer defer)
@@ -100,11 +83,11 @@ bool Window::needsDisplay() const {
 }
 
 void Window::pointerMoved(Point point) {
-    if (contentView_ != nullptr) track(*contentView_, &point);
+    if (contentView_ != nullptr) contentView_->trackPointer(&point);
 }
 
 void Window::pointerLeft() {
-    if (contentView_ != nullptr) track(*contentView_, nullptr);
+    if (contentView_ != nullptr) contentView_->trackPointer(nullptr);
 }
 
 void Window::pointerPressed(Point point) {
