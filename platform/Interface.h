@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -36,8 +37,10 @@ struct ActionBinding {
 
 template <class Owner, class Sender>
 ActionBinding action(std::string_view name, Owner& owner, void (Owner::*perform)(Sender&)) {
-    return {name, [](const Control& sender) { return dynamic_cast<const Sender*>(&sender) != nullptr; },
-            [&owner, perform](Control& sender) { (owner.*perform)(dynamic_cast<Sender&>(sender)); }};
+    const auto accepts = [](const Control& sender) {
+        return std::is_same_v<Sender, Control> || dynamic_cast<const Sender*>(&sender) != nullptr;
+    };
+    return {name, accepts, [&owner, perform](Control& sender) { (owner.*perform)(dynamic_cast<Sender&>(sender)); }};
 }
 
 /// What a scroll view does with the wheel.
