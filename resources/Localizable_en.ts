@@ -347,5 +347,413 @@
         <source>Tip.title</source>
         <translation>Tip</translation>
     </message>
+    <!-- The preferences window -->
+    <message>
+        <source>preferences.window.title</source>
+        <translation>Orlamo Settings</translation>
+    </message>
+    <message>
+        <source>preferences.tabs</source>
+        <translation>Pages</translation>
+    </message>
+    <!-- The page of the settings -->
+    <message>
+        <source>settings.tip</source>
+        <translation>Press the trigger key twice, quickly, in any application: its shortcuts appear in the middle of the screen.</translation>
+    </message>
+    <message>
+        <source>settings.general</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>settings.login</source>
+        <translation>Open at login</translation>
+    </message>
+    <message>
+        <source>settings.login.description</source>
+        <translation>Orlamo is ready as soon as you have logged in.</translation>
+    </message>
+    <message>
+        <source>settings.hide_icon</source>
+        <translation>Hide the status icon</translation>
+    </message>
+    <message>
+        <source>settings.hide_icon.description</source>
+        <translation>To come back to these settings without the icon, start Orlamo a second time.</translation>
+    </message>
+    <message>
+        <source>settings.taskbar</source>
+        <translation>Show windows in the taskbar</translation>
+    </message>
+    <message>
+        <source>settings.taskbar.description</source>
+        <translation>Also in the window switcher. Holds until Orlamo quits.</translation>
+    </message>
+    <message>
+        <source>settings.panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>settings.trigger</source>
+        <translation>Trigger key</translation>
+    </message>
+    <message>
+        <source>settings.trigger.description</source>
+        <translation>On a PC keyboard, Command is Ctrl, Control is Super and Shift is Shift.</translation>
+    </message>
+    <message>
+        <source>settings.help</source>
+        <translation>How the trigger key works</translation>
+    </message>
+    <message>
+        <source>settings.layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>settings.layout.columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>settings.blur</source>
+        <translation>Blurred background</translation>
+    </message>
+    <message>
+        <source>settings.blur.description</source>
+        <translation>What lies behind the panel shines through softly.</translation>
+    </message>
+    <message>
+        <source>settings.session_menu</source>
+        <translation>Include the session menu</translation>
+    </message>
+    <message>
+        <source>settings.session_menu.description</source>
+        <translation>Adds the keys to lock the screen, to log out and the like, where this desktop has them.</translation>
+    </message>
+    <message>
+        <source>settings.look</source>
+        <translation>Colour and corners</translation>
+    </message>
+    <message>
+        <source>settings.look.description</source>
+        <translation>Kept for a later version; the panel does not use them yet.</translation>
+    </message>
+    <message>
+        <source>settings.color</source>
+        <translation>Background colour</translation>
+    </message>
+    <message>
+        <source>settings.color.choose</source>
+        <translation>Choose a colour</translation>
+    </message>
+    <message>
+        <source>settings.radius</source>
+        <translation>Corner radius</translation>
+    </message>
+    <message>
+        <source>settings.updates</source>
+        <translation>Updates</translation>
+    </message>
+    <message>
+        <source>settings.check_updates</source>
+        <translation>Check for updates automatically</translation>
+    </message>
+    <message>
+        <source>settings.check_updates.description</source>
+        <translation>Kept for a later version. For now Orlamo checks when it starts after more than five days, whatever is chosen here; a packaged Orlamo is updated with its package.</translation>
+    </message>
+    <message>
+        <source>settings.permission</source>
+        <translation>Permission</translation>
+    </message>
+    <message>
+        <source>settings.permission.description</source>
+        <translation>Orlamo reads the menus of other applications through the accessibility service of this desktop.</translation>
+    </message>
+    <message>
+        <source>settings.permission.help</source>
+        <translation>How to give the permission</translation>
+    </message>
+    <!-- The help beside the trigger key -->
+    <message>
+        <source>popover.title</source>
+        <translation>How the panel opens</translation>
+    </message>
+    <message>
+        <source>popover.open</source>
+        <translation>Press the trigger key twice within half a second, with no other modifier held.</translation>
+    </message>
+    <message>
+        <source>popover.hold</source>
+        <translation>While the panel is open, hold modifiers: what they reach turns teal.</translation>
+    </message>
+    <message>
+        <source>popover.close</source>
+        <translation>The same double press, Escape or a click in another application closes it.</translation>
+    </message>
+    <!-- The tutorial -->
+    <message>
+        <source>tutorial.lead</source>
+        <translation>Four things to know, and every shortcut is at hand.</translation>
+    </message>
+    <message>
+        <source>tutorial.open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>tutorial.open.description</source>
+        <translation>Press the trigger key twice, quickly. It is Ctrl, unless you chose another one in the settings. The panel shows the shortcuts of the application in front, and those of the desktop beside them.</translation>
+    </message>
+    <message>
+        <source>tutorial.find</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>tutorial.find.description</source>
+        <translation>Hold Ctrl, Alt, Shift or Super: the shortcuts that begin with the keys you hold turn teal.</translation>
+    </message>
+    <message>
+        <source>tutorial.click</source>
+        <translation>Click</translation>
+    </message>
+    <message>
+        <source>tutorial.click.description</source>
+        <translation>A click on a shortcut does what it stands for, as if you had typed it.</translation>
+    </message>
+    <message>
+        <source>tutorial.close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>tutorial.close.description</source>
+        <translation>Press the trigger key twice again or Escape, or click in another application.</translation>
+    </message>
+    <message>
+        <source>tutorial.video</source>
+        <translation>Watch the Video</translation>
+    </message>
+    <message>
+        <source>tutorial.questions</source>
+        <translation>Questions and Answers</translation>
+    </message>
+    <!-- The applications of the publisher -->
+    <message>
+        <source>freeapps.lead</source>
+        <translation>Small, calm tools from the makers of Orlamo.</translation>
+    </message>
+    <message>
+        <source>freeapps.website</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>freeapps.more</source>
+        <translation>More Applications</translation>
+    </message>
+    <message>
+        <source>freeapps.orlamo.desc</source>
+        <translation>All shortcuts of the application in front, at a glance.</translation>
+    </message>
+    <message>
+        <source>freeapps.tavlumi.desc</source>
+        <translation>Remembers what you copied before and gives it back.</translation>
+    </message>
+    <message>
+        <source>freeapps.brenquo.desc</source>
+        <translation>Puts windows side by side with one key.</translation>
+    </message>
+    <message>
+        <source>freeapps.oskelid.desc</source>
+        <translation>A ruler for everything on the screen.</translation>
+    </message>
+    <message>
+        <source>freeapps.pirvanto.desc</source>
+        <translation>Renames many files at once and shows the result first.</translation>
+    </message>
+    <message>
+        <source>freeapps.zelmoru.desc</source>
+        <translation>Work and breaks by the clock.</translation>
+    </message>
+    <message>
+        <source>freeapps.fenzavo.desc</source>
+        <translation>Types whole phrases from short abbreviations.</translation>
+    </message>
+    <message>
+        <source>freeapps.murtiglo.desc</source>
+        <translation>Shows what fills your disk.</translation>
+    </message>
+    <message>
+        <source>freeapps.yarpeno.desc</source>
+        <translation>Notes in plain text, always at hand.</translation>
+    </message>
+    <!-- The page about the program -->
+    <message>
+        <source>about.lead</source>
+        <translation>All shortcuts at a glance.</translation>
+    </message>
+    <message>
+        <source>about.support</source>
+        <translation>Support</translation>
+    </message>
+    <message>
+        <source>about.support.description</source>
+        <translation>Something does not work, or you have an idea? Tell us.</translation>
+    </message>
+    <message>
+        <source>about.support.open</source>
+        <translation>Get Support</translation>
+    </message>
+    <message>
+        <source>about.chat</source>
+        <translation>Chat group</translation>
+    </message>
+    <message>
+        <source>about.chat.description</source>
+        <translation>Talk with others who use Orlamo.</translation>
+    </message>
+    <message>
+        <source>about.chat.open</source>
+        <translation>Join the Chat</translation>
+    </message>
+    <!-- The permission window -->
+    <message>
+        <source>permission.window.title</source>
+        <translation>Orlamo Needs a Permission</translation>
+    </message>
+    <message>
+        <source>permission.title</source>
+        <translation>May Orlamo read menus?</translation>
+    </message>
+    <message>
+        <source>permission.reason</source>
+        <translation>To list the shortcuts of an application, Orlamo reads its menus through the accessibility service of this desktop, and that is switched off. What it reads stays on this computer.</translation>
+    </message>
+    <message>
+        <source>accessibility.permission.gained</source>
+        <translation>Accessibility is switched on</translation>
+    </message>
+    <message>
+        <source>accessibility.permission.not.obtained</source>
+        <translation>Accessibility is switched off</translation>
+    </message>
+    <message>
+        <source>permission.screen_recording</source>
+        <translation>Screen recording</translation>
+    </message>
+    <message>
+        <source>permission.full_disk_access</source>
+        <translation>Full disk access</translation>
+    </message>
+    <message>
+        <source>permission.allow</source>
+        <translation>Switch On</translation>
+    </message>
+    <message>
+        <source>permission.help</source>
+        <translation>What does this mean?</translation>
+    </message>
+    <message>
+        <source>permission.later</source>
+        <translation>Later</translation>
+    </message>
+    <!-- The window that looks for updates -->
+    <message>
+        <source>update.window.title</source>
+        <translation>Software Update</translation>
+    </message>
+    <message>
+        <source>update.checking.title</source>
+        <translation>Looking for updates…</translation>
+    </message>
+    <message>
+        <source>update.upToDate.title</source>
+        <translation>Orlamo is up to date</translation>
+    </message>
+    <message>
+        <source>update.upToDate.message</source>
+        <translation>You have version %@. There is no newer one.</translation>
+    </message>
+    <message>
+        <source>update.newVersion.title</source>
+        <translation>Orlamo %@ is available</translation>
+    </message>
+    <message>
+        <source>update.newVersion.message</source>
+        <translation>You have version %@. The page of the new one says how to get it.</translation>
+    </message>
+    <message>
+        <source>update.newVersion.noPage</source>
+        <translation>You have version %@. No page of the new one is known; look where you got Orlamo from.</translation>
+    </message>
+    <message>
+        <source>update.newVersion.pageFailed</source>
+        <translation>Nothing on this computer could open %@</translation>
+    </message>
+    <message>
+        <source>update.notes</source>
+        <translation>What is new</translation>
+    </message>
+    <message>
+        <source>update.package.title</source>
+        <translation>Updates come with the package</translation>
+    </message>
+    <message>
+        <source>update.package.message</source>
+        <translation>This copy of Orlamo was installed as a package and is updated together with your system.</translation>
+    </message>
+    <message>
+        <source>update.failed.title</source>
+        <translation>Could not look for updates</translation>
+    </message>
+    <message>
+        <source>update.failed.address</source>
+        <translation>The address for updates is not a secure one (https), so it was not used.</translation>
+    </message>
+    <message>
+        <source>update.failed.insecureRedirect</source>
+        <translation>The update server sent on to an address that is not secure. Nothing was fetched from there.</translation>
+    </message>
+    <message>
+        <source>update.failed.tooManyRedirects</source>
+        <translation>The update server sent on from address to address without an end.</translation>
+    </message>
+    <message>
+        <source>update.failed.unreachable</source>
+        <translation>The update server could not be reached, or the connection broke off. Check your connection and try again.</translation>
+    </message>
+    <message>
+        <source>update.failed.untrusted</source>
+        <translation>The update server could not prove who it is. Its certificate may have expired; the date of this computer may be wrong, too.</translation>
+    </message>
+    <message>
+        <source>update.failed.timedOut</source>
+        <translation>The update server did not answer in time. Try again later.</translation>
+    </message>
+    <message>
+        <source>update.failed.refused</source>
+        <translation>The update server has no list of versions at its address. Try again later.</translation>
+    </message>
+    <message>
+        <source>update.failed.tooLarge</source>
+        <translation>The update server sent more than a list of versions can be. It was not read.</translation>
+    </message>
+    <message>
+        <source>update.failed.unreadable</source>
+        <translation>What the update server sent is not a list of versions.</translation>
+    </message>
+    <message>
+        <source>update.button.openPage</source>
+        <translation>Open Its Page</translation>
+    </message>
+    <message>
+        <source>update.button.later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>update.button.close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>update.button.cancel</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 </TS>
