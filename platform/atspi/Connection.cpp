@@ -26,6 +26,9 @@ bool append(sd_bus_message* message, const Call::Argument& argument) {
     if (const auto* const number = std::get_if<std::int32_t>(&argument)) {
         return sd_bus_message_append_basic(message, 'i', number) >= 0;
     }
+    if (const auto* const truth = std::get_if<bool>(&argument)) {
+        return sd_bus_message_append(message, "v", "b", static_cast<int>(*truth)) >= 0;
+    }
     if (sd_bus_message_open_container(message, 'a', "s") < 0) return false;
     for (const std::string& text : std::get<std::vector<std::string>>(argument)) {
         if (sd_bus_message_append_basic(message, 's', text.c_str()) < 0) return false;

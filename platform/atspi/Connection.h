@@ -23,9 +23,10 @@ inline Deadline deadlineIn(std::chrono::milliseconds time) {
     return std::chrono::steady_clock::now() + time;
 }
 
-/// A method call. The destination is ignored by a connection straight to a program.
+/// A method call. The destination is ignored by a connection straight to a program. A boolean goes as a property's
+/// value does: inside a variant.
 struct Call {
-    using Argument = std::variant<std::string, std::int32_t, std::vector<std::string>>;
+    using Argument = std::variant<std::string, std::int32_t, std::vector<std::string>, bool>;
 
     std::string destination;
     std::string path;

@@ -1,0 +1,176 @@
+#include "platform/xdg/ActivationService.h"
+
+#include <systemd/sd-bus.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <utility>
+
+#include "platform/Log.h"
+
+namespace orlamo::xdg {
+
+namespace {
+
+using std::chrono::microseconds;
+using std::chrono::steady_clock;
+
+constexpr const char* interface = "org.freedesktop.Application";
+constexpr microseconds patience = std::chrono::seconds(1);
+
+/// What a launcher left for the program to prove that the user wants its window in front.
+constexpr struct {
+    const char* variable;
+    const char* key;
+} launchData[] = {
+    {"DESKTOP_STARTUP_ID", "desktop-startup-id"},
+    {"XDG_ACTIVATION_TOKEN", "activation-token"},
+};
+
+std::string objectPath(const std::string& name) {
+    std::string path = "/" + name;
+    std::ranges::replace(path, '.', '/');
+    std::ranges::replace(path, '-', '_');
+    return path;
+}
+
+std::uint64_t left(steady_clock::time_point deadline) {
+    const auto time = std::chrono::duration_cast<microseconds>(deadline - steady_clock::now());
+    return static_cast<std::uint64_t>(std::max(time, microseconds(1)).count());
+}
+
+bool isPrintable(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return c > ' ' && c < 0x7f; });
+}
+
+int appendLaunchData(sd_bus_message* message) {
+    if (const int result = sd_bus_message_open_container(message, 'a', "{sv}"); result < 0) return result;
+    for (const auto& [variable, key] : launchData) {
+        const char* const value = std::getenv(variable);
+        if (value == nullptr || *value == '\0' || !isPrintable(value)) continue;
+        if (const int result = sd_bus_message_append(message, "{sv}", key, "s", value); result < 0) return result;
+    }
+    return sd_bus_message_close_container(message);
+}
+
+}  // namespace
+
+ActivationService::ActivationService(std::string name) : name_(std::move(name)), path_(objectPath(name_)) {}
+
+ActivationService::~ActivationService() {
+    close();
+}
+
+void ActivationService::close() {
+    watch_.reset();
+    if (bus_ == nullptr) return;
+    sd_bus_flush(bus_);
+    sd_bus_close(bus_);
+    bus_ = sd_bus_unref(bus_);
+}
+
+/// A bus that accepts the connection and then says nothing is no bus.
+bool ActivationService::connect() {
+    const auto failed = [](int error) {
+        logLine(std::string("no session bus: ") + std::strerror(-error));
+        return false;
+    };
+    if (const int result = sd_bus_open_user(&bus_); result < 0) return failed(result);
+    const auto deadline = steady_clock::now() + patience;
+    while (sd_bus_is_ready(bus_) <= 0) {
+        const int result = sd_bus_process(bus_, nullptr);
+        if (result < 0) return failed(result);
+        if (result > 0) continue;
+        if (steady_clock::now() >= deadline) return failed(-ETIMEDOUT);
+        if (const int waited = sd_bus_wait(bus_, left(deadline)); waited < 0 && waited != -EINTR) return failed(waited);
+    }
+    sd_bus_set_method_call_timeout(bus_, static_cast<std::uint64_t>(patience.count()));
+    constexpr auto activated = [](sd_bus_message* message, void* data, sd_bus_error*) {
+        return static_cast<ActivationService*>(data)->answer(message);
+    };
+    static const sd_bus_vtable methods[] = {
+        SD_BUS_VTABLE_START(0),
+        SD_BUS_METHOD("Activate", "a{sv}", "", activated, SD_BUS_VTABLE_UNPRIVILEGED),
+        SD_BUS_VTABLE_END,
+    };
+    // Before the name is ours, so that nobody finds the name without the object.
+    const int result = sd_bus_add_object_vtable(bus_, nullptr, path_.c_str(), interface, methods, this);
+    return result >= 0 || failed(result);
+}
+
+/// The caller has its answer before the handler does anything that takes time.
+int ActivationService::answer(sd_bus_message* message) {
+    RunLoop::shared().asyncAfter(0, [this, alive = std::weak_ptr<bool>(isAlive_)] {
+        if (!alive.expired() && handler_) handler_();
+    });
+    return sd_bus_reply_method_return(message, "");
+}
+
+/// Negative: the error. The bus must not start the program for this call: it has just asked for the name itself.
+int ActivationService::handOver() {
+    sd_bus_message* message = nullptr;
+    int result = sd_bus_message_new_method_call(bus_, &message, name_.c_str(), path_.c_str(), interface, "Activate");
+    if (result >= 0) result = sd_bus_message_set_auto_start(message, 0);
+    if (result >= 0) result = appendLaunchData(message);
+    sd_bus_error error = SD_BUS_ERROR_NULL;
+    if (result >= 0) {
+        result = sd_bus_call(bus_, message, static_cast<std::uint64_t>(patience.count()), &error, nullptr);
+    }
+    // "No reply" comes from the bus when the other one went away over the question; one that is only slow is a
+    // time-out.
+    const bool isGone = sd_bus_error_has_names(&error, SD_BUS_ERROR_SERVICE_UNKNOWN, SD_BUS_ERROR_NAME_HAS_NO_OWNER,
+                                               SD_BUS_ERROR_NO_REPLY) > 0;
+    if (result < 0 && !isGone) {
+        logLine("the running program does not take this launch over: " +
+                std::string(error.message != nullptr ? error.message : std::strerror(-result)));
+    }
+    sd_bus_error_free(&error);
+    sd_bus_message_unref(message);
+    return isGone ? -ESRCH : result;
+}
+
+LaunchOutcome ActivationService::launch() {
+    if (!connect()) {
+        close();
+        return LaunchOutcome::noBus;
+    }
+    // The running one may end between the two questions; then it is our turn.
+    const auto deadline = steady_clock::now() + patience;
+    for (;;) {
+        const int result = sd_bus_request_name(bus_, name_.c_str(), 0);
+        if (result >= 0) return LaunchOutcome::first;
+        if (result != -EEXIST) {
+            logLine("the session bus does not give the name " + name_ + ": " + std::strerror(-result));
+            close();
+            return LaunchOutcome::noBus;
+        }
+        const int handed = handOver();
+        if (handed == -ESRCH && steady_clock::now() < deadline) continue;
+        close();
+        return handed >= 0 ? LaunchOutcome::handedOver : LaunchOutcome::noAnswer;
+    }
+}
+
+void ActivationService::setHandler(Handler handler) {
+    handler_ = std::move(handler);
+    if (bus_ == nullptr || watch_) return;
+    watch_ = RunLoop::shared().watchReadable(sd_bus_get_fd(bus_), [this] { handle(); });
+    // What came in during launch() has been read already, so the descriptor stays silent about it.
+    RunLoop::shared().asyncAfter(0, [this, alive = std::weak_ptr<bool>(isAlive_)] {
+        if (!alive.expired()) handle();
+    });
+}
+
+void ActivationService::handle() {
+    int result = 0;
+    while (bus_ != nullptr && (result = sd_bus_process(bus_, nullptr)) > 0) {
+    }
+    if (result >= 0) return;
+    logLine("the session bus is gone; a second launch will not find this program");
+    close();
+}
+
+}  // namespace orlamo::xdg

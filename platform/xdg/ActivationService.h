@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/RunLoop.h"
+
+struct sd_bus;
+struct sd_bus_message;
+
+namespace orlamo::xdg {
+
+/// How a launch found the session.
+enum class LaunchOutcome {
+    first,       // no other one runs in this session; this one can now be activated
+    handedOver,  // the running one has taken the launch over
+    noAnswer,    // one is running, but did not answer in time or refused
+    noBus,       // there is no session bus to ask; one log line says why
+};
+
+/// One running program per session bus: owns the program's name there, and lets a second launch activate it through
+/// org.freedesktop.Application. Activate is all that it answers; what else that interface has is an error to the
+/// caller. Main thread only.
+class ActivationService {
+public:
+    using Handler = std::function<void()>;
+
+    explicit ActivationService(std::string name);
+    ~ActivationService();
+    ActivationService(const ActivationService&) = delete;
+    ActivationService& operator=(const ActivationService&) = delete;
+
+    /// Before anything else of the program starts; needs no run loop. Waits at most 1 s for the bus and 1 s for the
+    /// running program, which gets what the desktop gave this launch (startup id, activation token).
+    LaunchOutcome launch();
+    /// From now on, with the run loop: called for each activation, also for those that came in since launch(). Only
+    /// after an outcome `first`; otherwise it is never called.
+    void setHandler(Handler handler);
+
+private:
+    bool connect();
+    int handOver();
+    int answer(sd_bus_message* message);
+    void handle();
+    void close();
+
+    std::string name_;
+    std::string path_;  // the name as an object path
+    sd_bus* bus_ = nullptr;
+    Handler handler_;
+    std::unique_ptr<RunLoop::Handle> watch_;
+    std::shared_ptr<bool> isAlive_ = std::make_shared<bool>(true);  // for the first look at what came in
+};
+
+}  // namespace orlamo::xdg
