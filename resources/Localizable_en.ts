@@ -431,7 +431,7 @@
     </message>
     <message>
         <source>settings.look</source>
-        <translation>Colour and corners</translation>
+        <translation>Color and corners</translation>
     </message>
     <message>
         <source>settings.look.description</source>
@@ -439,11 +439,11 @@
     </message>
     <message>
         <source>settings.color</source>
-        <translation>Background colour</translation>
+        <translation>Background color</translation>
     </message>
     <message>
         <source>settings.color.choose</source>
-        <translation>Choose a colour</translation>
+        <translation>Choose a color</translation>
     </message>
     <message>
         <source>settings.radius</source>
@@ -754,6 +754,15 @@
     <message>
         <source>update.button.cancel</source>
         <translation>Cancel</translation>
+    </message>
+    <!-- The second launch -->
+    <message>
+        <source>instance.noAnswer.title</source>
+        <translation>Orlamo is running, but does not answer</translation>
+    </message>
+    <message>
+        <source>instance.noAnswer.message</source>
+        <translation>Wait a moment and try again. If that does not help, quit Orlamo, or end it in the system monitor of this desktop, and start it anew.</translation>
     </message>
 </context>
 </TS>

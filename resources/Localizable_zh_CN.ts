@@ -755,5 +755,14 @@
         <source>update.button.cancel</source>
         <translation>取消</translation>
     </message>
+    <!-- The second launch -->
+    <message>
+        <source>instance.noAnswer.title</source>
+        <translation>Orlamo 正在运行，但没有响应</translation>
+    </message>
+    <message>
+        <source>instance.noAnswer.message</source>
+        <translation>请稍候再试。如果仍然无效，请退出 Orlamo，或在系统监视器中结束它，然后重新启动。</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -9,6 +10,7 @@
 
 #include "core/SystemShortcuts.h"
 #include "platform/plist/LibplistParser.h"
+#include "shell/pages/WebPages.h"
 
 namespace orlamo {
 namespace {
@@ -37,6 +39,34 @@ std::map<std::string, std::string> stringTable(const std::string& language) {
         EXPECT_TRUE(table.emplace(plain((*found)[1]), plain((*found)[2])).second) << language << " " << (*found)[1];
     }
     return table;
+}
+
+/// The files below a folder of the project whose ending is one of these, by their path from the resources.
+std::vector<std::string> files(const std::string& below, const std::set<std::string>& endings) {
+    std::vector<std::string> found;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder + below)) {
+        if (endings.contains(entry.path().extension()))
+            found.push_back(below + "/" + entry.path().lexically_relative(folder + below).string());
+    }
+    EXPECT_FALSE(found.empty()) << below;
+    return found;
+}
+
+/// What the pattern's first group found in a file.
+std::set<std::string> found(const std::string& file, const std::string& pattern) {
+    const auto text = read(file);
+    const std::regex expression(pattern);
+    std::set<std::string> all;
+    for (std::sregex_iterator each(text.begin(), text.end(), expression), end; each != end; ++each)
+        all.insert((*each)[1]);
+    return all;
+}
+
+std::vector<std::string> sources() {
+    std::vector<std::string> all;
+    for (const auto* const room : {"core", "panel", "shell", "permissions", "preferences", "update", "platform", "app"})
+        std::ranges::move(files("../" + std::string(room), {".h", ".cpp"}), std::back_inserter(all));
+    return all;
 }
 
 std::vector<std::string> partsOf(std::string_view row) {
@@ -73,6 +103,40 @@ TEST_P(StringTable, KeepsTheKindOfEachHeading) {
             EXPECT_EQ(std::ranges::count(found->second, '/'), 1) << found->first;
         }
     }
+}
+
+// A text that is no key says notr="true".
+TEST_P(StringTable, HasEveryTextOfTheInterfaceFiles) {
+    const auto table = stringTable(GetParam());
+    std::size_t count = 0;
+    for (const auto& file : files(".", {".ui"})) {
+        for (const auto& key : found(file, "<string(?![^>]*notr=\"true\")[^>]*>([^<]+)</string>")) {
+            EXPECT_TRUE(table.contains(key)) << file << ": " << key;
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 0U);
+}
+
+// A literal that begins like one of the table's dotted keys is meant to be one.
+TEST_P(StringTable, HasEveryKeyOfTheCode) {
+    const auto table = stringTable(GetParam());
+    std::set<std::string> beginnings;
+    for (const auto& [key, text] : table) {
+        if (key.find(' ') == std::string::npos && key.find('.') != std::string::npos)
+            beginnings.insert(key.substr(0, key.find('.')));
+    }
+    std::size_t count = 0;
+    for (const auto& file : sources()) {
+        auto keys = found(file, "(?:NSLocalizedString|localizedString)\\(\"([^\"]+)\"");
+        for (const auto& literal : found(file, "\"([A-Za-z_]+\\.[A-Za-z_.]+)\"")) {
+            if (literal.find(".json") == std::string::npos && beginnings.contains(literal.substr(0, literal.find('.'))))
+                keys.insert(literal);
+        }
+        for (const auto& key : keys) EXPECT_TRUE(table.contains(key)) << file << ": " << key;
+        count += keys.size();
+    }
+    EXPECT_GT(count, 0U);
 }
 
 INSTANTIATE_TEST_SUITE_P(OfEveryLanguage, StringTable, testing::Values("en", "zh_CN"));
@@ -117,6 +181,41 @@ TEST(InformationDictionary, NamesTheVersionThatIsBuilt) {
     ASSERT_NE(info.at("CFBundleShortVersionString"), nullptr);
     EXPECT_EQ(*info.at("CFBundleShortVersionString"), PropertyList(std::string(ORLAMO_VERSION)));
     EXPECT_EQ(*info.at("CFBundleIdentifier"), PropertyList(std::string("app.orlamo.Orlamo")));
+}
+
+TEST(InformationDictionary, HasThePublishersPagesAndNoFeed) {
+    const auto info = parsed("Info.plist");
+    const auto* const pages = info.at("WebPages");
+    ASSERT_NE(pages, nullptr);
+    for (const auto page :
+         {WebPages::home, WebPages::videoTutorial, WebPages::questionsAndAnswers, WebPages::support,
+          WebPages::chatGroup, WebPages::permissionHelp, WebPages::applications, WebPages::developer}) {
+        const auto* const address = pages->at(page);
+        ASSERT_NE(address, nullptr) << page;
+        ASSERT_NE(address->get<std::string>(), nullptr) << page;
+        EXPECT_TRUE(address->get<std::string>()->starts_with("https://orlamo.example/")) << page;
+    }
+    ASSERT_NE(info.at("SUFeedURL"), nullptr);
+    EXPECT_EQ(*info.at("SUFeedURL"), PropertyList(std::string()));
+}
+
+TEST(Images, AreThereForEveryName) {
+    std::map<std::string, std::string> users{{"menuBarIcon", "status item"}, {"gear", "menu"},   {"escape", "menu"},
+                                             {"General1", "tabs"},           {"Learn1", "tabs"}, {"freeapp1", "tabs"},
+                                             {"contactus2", "tabs"}};
+    const auto collect = [&users](const std::string& file, const std::string& pattern) {
+        const auto names = found(file, pattern);
+        for (const auto& name : names) users[name] = file;
+        return names.size();
+    };
+    std::size_t named = 0;
+    for (const auto& file : files(".", {".ui"}))
+        named += collect(file, "name=\"image\"[^>]*>\\s*<string[^>]*>([^<]+)</string>");
+    EXPECT_GT(named, 0U);
+    EXPECT_GT(collect("theme.qss", "url\\(image:([^)]+)\\.svg\\)"), 0U);
+    EXPECT_EQ(collect("../preferences/FreeAppsViewController.cpp", "\"(app\\.orlamo\\.\\w+)\""), 9U);
+    for (const auto& [name, user] : users)
+        EXPECT_NE(read(name + ".svg").find("<svg"), std::string::npos) << name << " of " << user;
 }
 
 }  // namespace
