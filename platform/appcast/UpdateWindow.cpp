@@ -1,0 +1,177 @@
+#include "platform/appcast/UpdateWindow.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "platform/Bundle.h"
+#include "platform/Log.h"
+#include "platform/Workspace.h"
+
+namespace orlamo::appcast {
+
+namespace {
+
+// Points.
+constexpr int windowWidth = 460;
+constexpr int margin = 28;
+constexpr int spacing = 12;
+constexpr int notesHeight = 180;
+
+/// The table's text with the value in the place of its %@.
+std::string localized(std::string_view key, std::string_view value) {
+    std::string text = NSLocalizedString(key);
+    if (const auto at = text.find("%@"); at != std::string::npos) text.replace(at, 2, value);
+    return text;
+}
+
+std::string failureMessage(Outcome outcome) {
+    switch (outcome) {
+        case Outcome::badFeedAddress:
+            return NSLocalizedString("update.failed.address");
+        case Outcome::insecureRedirect:
+            return NSLocalizedString("update.failed.insecureRedirect");
+        case Outcome::tooManyRedirects:
+            return NSLocalizedString("update.failed.tooManyRedirects");
+        case Outcome::unreachable:
+            return NSLocalizedString("update.failed.unreachable");
+        case Outcome::untrusted:
+            return NSLocalizedString("update.failed.untrusted");
+        case Outcome::timedOut:
+            return NSLocalizedString("update.failed.timedOut");
+        case Outcome::refused:
+            return NSLocalizedString("update.failed.refused");
+        case Outcome::tooLarge:
+            return NSLocalizedString("update.failed.tooLarge");
+        case Outcome::unreadable:
+            return NSLocalizedString("update.failed.unreadable");
+        case Outcome::upToDate:
+        case Outcome::newVersion:
+        case Outcome::noFeedAddress:
+            break;
+    }
+    return "";
+}
+
+void setText(QLabel& label, const std::string& text) {
+    label.setText(QString::fromStdString(text));
+    label.setVisible(!text.empty());
+}
+
+}  // namespace
+
+UpdateWindow::UpdateWindow() {
+    setObjectName("updateWindow");
+    setWindowTitle(QString::fromStdString(NSLocalizedString("update.window.title")));
+    build();
+}
+
+void UpdateWindow::build() {
+    title_.setObjectName("updateTitle");
+    message_.setObjectName("updateMessage");
+    for (QLabel* const label : {&title_, &message_}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    QFont large = title_.font();
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    large.setBold(true);
+    title_.setFont(large);
+
+    progress_.setObjectName("updateProgress");
+    progress_.setTextVisible(false);
+    progress_.setAccessibleName(QString::fromStdString(NSLocalizedString("update.checking.title")));
+    notes_.setObjectName("updateNotes");
+    notes_.setReadOnly(true);
+    notes_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    notes_.setTabChangesFocus(true);
+    notes_.setMinimumHeight(notesHeight);
+    notes_.setAccessibleName(QString::fromStdString(NSLocalizedString("update.notes")));
+
+    dismiss_.setObjectName("updateDismiss");
+    openPage_.setObjectName("updateOpenPage");
+    openPage_.setText(QString::fromStdString(NSLocalizedString("update.button.openPage")));
+    connect(&dismiss_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(&openPage_, &QPushButton::clicked, this, [this] { openPage(); });
+
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(spacing);
+    buttons->addStretch();
+    buttons->addWidget(&dismiss_);
+    buttons->addWidget(&openPage_);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(spacing);
+    column->addWidget(&title_);
+    column->addWidget(&message_);
+    column->addWidget(&progress_);
+    column->addWidget(&notes_, 1);
+    column->addSpacing(spacing);
+    column->addLayout(buttons);
+    setMinimumWidth(windowWidth);
+}
+
+void UpdateWindow::showChecking() {
+    page_.clear();
+    notes_.hide();
+    openPage_.hide();
+    progress_.setRange(0, 0);
+    progress_.show();
+    dismiss_.setText(QString::fromStdString(NSLocalizedString("update.button.cancel")));
+    show(NSLocalizedString("update.checking.title"), "");
+}
+
+void UpdateWindow::showResult(const CheckResult& result, const std::string& currentVersion) {
+    page_.clear();
+    progress_.setRange(0, 1);
+    progress_.hide();
+    notes_.hide();
+    openPage_.hide();
+    dismiss_.setText(QString::fromStdString(NSLocalizedString("update.button.close")));
+    switch (result.outcome) {
+        case Outcome::upToDate:
+            return show(NSLocalizedString("update.upToDate.title"),
+                        localized("update.upToDate.message", currentVersion));
+        case Outcome::newVersion:
+            return showNewVersion(*result.item, currentVersion);
+        case Outcome::noFeedAddress:
+            return show(NSLocalizedString("update.package.title"), NSLocalizedString("update.package.message"));
+        default:
+            return show(NSLocalizedString("update.failed.title"), failureMessage(result.outcome));
+    }
+}
+
+void UpdateWindow::showNewVersion(const Item& item, const std::string& currentVersion) {
+    page_ = item.page;
+    notes_.setPlainText(item.notes);
+    notes_.setVisible(!item.notes.isEmpty());
+    openPage_.setVisible(!page_.isEmpty());
+    if (!page_.isEmpty()) dismiss_.setText(QString::fromStdString(NSLocalizedString("update.button.later")));
+    const std::string message = page_.isEmpty() ? localized("update.newVersion.noPage", currentVersion)
+                                                : localized("update.newVersion.message", currentVersion);
+    show(localized("update.newVersion.title", item.versionText.toStdString()), message);
+}
+
+void UpdateWindow::show(const std::string& title, const std::string& message) {
+    setText(title_, title);
+    setText(message_, message);
+    QPushButton& first = page_.isEmpty() ? dismiss_ : openPage_;
+    first.setDefault(true);
+    first.setFocus();
+    adjustSize();
+}
+
+void UpdateWindow::bringForward() {
+    QDialog::show();
+    raise();
+    activateWindow();
+}
+
+void UpdateWindow::openPage() {
+    const std::string address = page_.toString(QUrl::FullyEncoded).toStdString();
+    if (Workspace::shared().openURL(address)) return accept();
+    logLine("updates: nothing opens " + address);
+    setText(message_, localized("update.newVersion.pageFailed", address));
+    adjustSize();
+}
+
+}  // namespace orlamo::appcast

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <string>
+
+#include "platform/appcast/UpdateCheck.h"
+
+namespace orlamo::appcast {
+
+/// What a check shows: that it runs, and how it ended. Escape closes it.
+class UpdateWindow final : public QDialog {
+public:
+    UpdateWindow();
+
+    void showChecking();
+    /// `currentVersion`, the program's own, stands in some of the texts.
+    void showResult(const CheckResult& result, const std::string& currentVersion);
+
+    /// To the front of the screen, with the keyboard where the desktop lets it.
+    void bringForward();
+
+private:
+    void build();
+    void show(const std::string& title, const std::string& message);
+    void showNewVersion(const Item& item, const std::string& currentVersion);
+    void openPage();
+
+    QLabel title_;
+    QLabel message_;
+    QProgressBar progress_;
+    QPlainTextEdit notes_;
+    QPushButton dismiss_;   // Cancel, Later, Close
+    QPushButton openPage_;  // of a new version with a page
+    QUrl page_;
+};
+
+}  // namespace orlamo::appcast
