@@ -11,7 +11,8 @@
 
 namespace orlamo {
 
-/// Every page of the publisher has the address https://<its name>.example/.
+using Lines = std::vector<std::string>;
+
 class PreferencesTest : public testing::Test {
 protected:
     PreferencesTest() {
@@ -20,12 +21,13 @@ protected:
         PropertyList::Dictionary pages;
         for (const auto* const page : {"home", "videoTutorial", "questionsAndAnswers", "support", "chatGroup",
                                        "permissionHelp", "applications", "developer"})
-            pages[page] = PropertyList("https://" + std::string(page) + ".example/");
+            pages[page] = PropertyList(std::string(page) + ".example");
         desktop.bundle.info["WebPages"] = PropertyList(pages);
     }
 
     FakeDesktop desktop;
     FakeInterfaceFiles files;
+    FakeButton button;
 };
 
 }  // namespace orlamo

@@ -1,109 +1,143 @@
+#include "preferences/Preferences.h"
+
+#include "preferences/DisablableScrollView.h"
+#include "preferences/GradientView.h"
 #include "preferences/InitialViewController.h"
 #include "preferences/LCCustomTableRowView.h"
-#include "preferences/Preferences.h"
 #include "tests/doubles/RecordingGraphicsContext.h"
 #include "tests/preferences/PreferencesFixture.h"
 
 namespace orlamo {
 namespace {
 
-using testing::Each;
-using testing::ElementsAre;
-
-const Point top{0, 480};  // of the fake pages, which are 480 points high
-
 class Tabs : public PreferencesTest {
 protected:
     FakeTableView& table() { return files.control<FakeTableView>("tableView"); }
     FakeScrollView& area() { return files.control<FakeScrollView>("scrollView"); }
-    const std::string& shownPage() { return dynamic_cast<FakeInterfaceView&>(*area().documents.back()).name; }
+    const std::string& shown() { return dynamic_cast<FakeInterfaceView&>(*area().documents.back()).name; }
 
     InitialViewController tabs;
 };
 
-TEST_F(Tabs, ThePageOfEachTabFollowsTheSelectionAndIsLoadedOnce) {
-    desktop.bundle.info["CFBundleShortVersionString"] = PropertyList(std::string("1.2.3"));
+TEST_F(Tabs, ThePageOfEachTabFollowsTheSelectionFromItsTopAndIsLoadedOnce) {
+    const Lines pages{"SettingsController", "TutorialViewController", "FreeAppsViewController",
+                      "UserSupportController"};
     tabs.view();
-    EXPECT_EQ(files.control<FakeTextField>("productVersionTextField").text, "Orlamo 1.2.3");
-    EXPECT_EQ(table().spacing, (Size{0, 10}));
-    EXPECT_THAT(table().selections, ElementsAre(0));
-    EXPECT_EQ(shownPage(), "SettingsController");
-    const char* const pages[] = {"SettingsController", "TutorialViewController", "FreeAppsViewController",
-                                 "UserSupportController"};
+    EXPECT_EQ(table().selections, std::vector<int>{0});
+    EXPECT_EQ(shown(), pages[0]);
     for (const int row : {1, 2, 3, 0, 2}) {
         area().scrolledTo.clear();
         table().selectRow(row);
-        EXPECT_EQ(shownPage(), pages[row]);
-        EXPECT_THAT(area().scrolledTo, ElementsAre(top));
+        EXPECT_EQ(shown(), pages.at(static_cast<std::size_t>(row)));
+        EXPECT_EQ(area().scrolledTo, std::vector{(Point{0, files.viewSize.height})});
     }
+    tabs.selectTab(2);
+    EXPECT_EQ(area().scrolledTo.size(), 2U) << "the same page once more";
+    EXPECT_EQ(table().selections, (std::vector{0, 1, 2, 3, 0, 2}));
     EXPECT_EQ(area().elasticity, ScrollView::Elasticity::none);
-    EXPECT_THAT(files.loaded, ElementsAre("InitialViewController", "SettingsController", "TutorialViewController",
-                                          "FreeAppsViewController", "UserSupportController"));
-}
-
-TEST_F(Tabs, ChoosingTheSelectedTabShowsItsPageAgain) {
-    tabs.view();
-    const auto shownBefore = area().documents.size();
-    tabs.selectTab(0);
-    EXPECT_EQ(area().documents.size(), shownBefore + 1);
-    EXPECT_THAT(table().selections, ElementsAre(0));
+    EXPECT_EQ(Lines(files.loaded.begin() + 1, files.loaded.end()), pages);
 }
 
 TEST_F(Tabs, WhatIsNoTabOfThisListShowsNoPage) {
     tabs.view();
-    const auto shownBefore = area().documents.size();
+    const auto before = area().documents.size();
     FakeTableView other;
     other.selected = 2;
     tabs.tableViewSelectionDidChange(other);
     table().selected = -1;
     tabs.tableViewSelectionDidChange(table());
     tabs.selectTab(4);
-    EXPECT_EQ(area().documents.size(), shownBefore);
+    EXPECT_EQ(area().documents.size(), before);
 }
 
 TEST_F(Tabs, AreFourRowsOfTitlesByKeyAndImages) {
-    FakeTableView table;
-    EXPECT_EQ(tabs.numberOfRowsInTableView(table), 4);
-    EXPECT_EQ(tabs.heightOfRow(table, 3), 32);
-    EXPECT_NE(dynamic_cast<LCCustomTableRowView*>(tabs.rowViewForRow(table, 0).get()), nullptr);
+    tabs.view();
+    EXPECT_EQ(table().rows, 4);
+    EXPECT_EQ(table().spacing, (Size{0, 10}));
+    EXPECT_EQ(tabs.heightOfRow(table(), 3), 32);
+    EXPECT_NE(dynamic_cast<LCCustomTableRowView*>(tabs.rowViewForRow(table(), 0).get()), nullptr);
     const std::pair<const char*, const char*> rows[] = {{"tab.types.settings", "General1"},
                                                         {"tab.types.tutorial", "Learn1"},
                                                         {"tab.types.free_apps", "freeapp1"},
                                                         {"tab.types.about", "contactus2"}};
     for (int row = 0; row < 4; ++row) {
-        EXPECT_EQ(tabs.viewForTableColumn(table, row).text, rows[row].first);
-        EXPECT_EQ(tabs.viewForTableColumn(table, row).image, rows[row].second);
+        const TableCellView cell = tabs.viewForTableColumn(table(), row);
+        EXPECT_EQ(std::pair(cell.text, cell.image), (std::pair<std::string, std::string>(rows[row])));
     }
 }
 
-TEST_F(Tabs, AWindowWithoutVersionTableOrAreaStillOpens) {
-    tabs.view();
-    EXPECT_EQ(files.control<FakeTextField>("productVersionTextField").text, "Orlamo ");
-    for (const char* const outlet : {"productVersionTextField", "tableView", "scrollView"}) {
-        files.missing = {outlet};
-        InitialViewController partly;
-        partly.view();
-        if (files.missing.contains("scrollView")) continue;
-        EXPECT_EQ(shownPage(), "SettingsController") << "without " << outlet;
-    }
-    desktop.log.lines.clear();
-    files.view("InitialViewController")->disappear();
-}
-
-TEST_F(PreferencesTest, TheWindowOpensCentredAndCanAlwaysBeClosedAndShownAgain) {
+TEST_F(PreferencesTest, TheWindowOpensCentredNamesTheVersionAndIsKeptWhenItCloses) {
     Preferences preferences;
     preferences.showWindow();
-    ASSERT_NE(preferences.window(), nullptr);
+    EXPECT_EQ(files.control<FakeTextField>("productVersionTextField").text, "Orlamo ");
     EXPECT_EQ(preferences.window()->frame(), (Rect{320, 170, 800, 560}));
-    for (int time = 0; time < 2; ++time) {
-        preferences.window()->performClose();
-        EXPECT_FALSE(preferences.window()->isVisible());
-        preferences.showWindow();
-        EXPECT_TRUE(preferences.window()->isVisible());
-    }
-    EXPECT_EQ(std::ranges::count(files.loaded, "InitialViewController"), 1);
+    preferences.window()->performClose();
+    EXPECT_FALSE(preferences.window()->isVisible());
+    preferences.showWindow();
+    EXPECT_TRUE(preferences.window()->isVisible());
+    EXPECT_EQ(files.loaded, (Lines{"InitialViewController", "SettingsController"}));
     files.view("InitialViewController")->disappear();
     EXPECT_EQ(desktop.log.lines.back(), "InitialViewController 即将消失。。。。");
+
+    desktop.bundle.info["CFBundleShortVersionString"] = PropertyList(std::string("1.2.3"));
+    files.missing = {"tableView", "scrollView"};
+    InitialViewController withoutTabs;
+    withoutTabs.view();
+    EXPECT_EQ(files.control<FakeTextField>("productVersionTextField").text, "Orlamo 1.2.3");
+}
+
+using Fills = std::vector<RecordingGraphicsContext::Fill>;
+
+Fills drawn(LCCustomTableRowView& row) {
+    RecordingGraphicsContext context;
+    row.display(context);
+    return context.fills;
+}
+
+TEST(RowView, IsLightUnderThePointerAndDarkWhenSelected) {
+    LCCustomTableRowView row;
+    row.setFrame({0, 42, 200, 32});
+    row.updateTrackingAreas();
+    EXPECT_EQ(row.trackingAreas().at(0).rect, row.bounds());
+    EXPECT_EQ(row.trackingAreas().at(0).options, 129U);
+
+    const Path outline = Path::roundedRect({12.5, 2.5, 175, 27}, 10);
+    const Fills dark{{outline, {0, 0, 0, 0.35}}};
+    EXPECT_EQ(drawn(row), Fills{});
+    row.mouseEntered({});
+    EXPECT_TRUE(row.needsDisplay());
+    EXPECT_EQ(drawn(row), (Fills{{outline, {1, 1, 1, 0.1}}}));
+    row.isSelected = true;
+    EXPECT_EQ(drawn(row), dark);
+    row.mouseExited({});
+    EXPECT_TRUE(row.needsDisplay());
+    EXPECT_EQ(drawn(row), dark);
+    row.selectionHighlightStyle = TableRowView::SelectionHighlightStyle::none;
+    EXPECT_EQ(drawn(row), Fills{});
+}
+
+TEST(GradientView, EveryPropertyFromTheFileReachesTheLayer) {
+    GradientView view;
+    view.awakeFromNib();
+    ASSERT_EQ(view.layer, view.GradientLayer);
+    const GradientLayer& layer = *view.GradientLayer;
+    EXPECT_EQ(std::pair(layer.startPoint, layer.endPoint), std::pair(Point{0, 0.5}, Point{1, 0.5}));
+    EXPECT_TRUE(view.setValueForKey(Color::black(), "firstColor"));
+    EXPECT_EQ(layer.colors, (std::vector{Color::black(), Color::clearColor()}));
+    EXPECT_TRUE(view.setValueForKey(Color::grey(1), "secondColor"));
+    EXPECT_EQ(layer.colors, (std::vector{Color::black(), Color::grey(1)}));
+    EXPECT_EQ(layer.locations, (std::vector{0.0, 1.0}));
+    EXPECT_TRUE(view.setValueForKey(false, "isHorizontal"));
+    EXPECT_EQ(std::pair(layer.startPoint, layer.endPoint), std::pair(Point{0.5, 0}, Point{0.5, 1}));
+    EXPECT_TRUE(view.setValueForKey(0.25, "layerOpacity"));
+    EXPECT_EQ(layer.opacity, 0.25F);
+    EXPECT_FALSE(view.setValueForKey(true, "firstColor"));
+}
+
+TEST(DisablableScrollView, DropsTheWheel) {
+    FakeScrollView scrollView;
+    DisablableScrollView().scrollWheel(scrollView, {0, 9});
+    EXPECT_TRUE(scrollView.scrolledBy.empty());
 }
 
 }  // namespace
