@@ -101,9 +101,13 @@ void Window::viewNeedsDisplay() {
 
 void Window::setFrame(const Rect& frame) {
     if (frame == frame_) return;
+    frameChangedByUser(frame);
+    if (host_ != nullptr) host_->frameChanged(frame);
+}
+
+void Window::frameChangedByUser(const Rect& frame) {
     frame_ = frame;
     if (contentView_ != nullptr) contentView_->setFrame({0, 0, frame.width, frame.height});
-    if (host_ != nullptr) host_->frameChanged(frame);
 }
 
 }  // namespace orlamo

@@ -69,6 +69,8 @@ public:
     void performClose();
 
     // For the host.
+    /// The user moved or sized the window.
+    void frameChangedByUser(const Rect& frame);
     /// Draws the content view; nothing while there is none.
     void display(GraphicsContext& context);
     bool needsDisplay() const;

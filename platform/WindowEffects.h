@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "platform/Service.h"
@@ -25,6 +26,8 @@ struct PixelImage {
 
 using NativeWindow = std::uint64_t;
 
+enum class Listing { listed, unlisted };
+
 /// What the window system can do for a window beyond showing what it draws. An adapter of platform/ for another.
 class WindowEffects : public Service<WindowEffects> {
 public:
@@ -40,8 +43,12 @@ public:
     virtual std::optional<PixelImage> copyScreen(const PixelRect& area) = 0;
     /// Cuts the window, and the presses it takes, to a rounded rectangle. Sizes in device pixels.
     virtual void shapeRounded(NativeWindow window, int width, int height, int radius) = 0;
-    /// Gives a visible window the input focus; remembers which window had it, for Workspace to return it.
+    /// Gives a visible window the input focus; remembers which window had it, for Workspace to return it. Where a
+    /// window manager manages the window, asks that to do so.
     virtual void giveFocus(NativeWindow window) = 0;
+    /// Tells the window manager whose window it manages and whether the taskbar and the switcher list it. Before each
+    /// time that the window appears, and whenever the answer changes.
+    virtual void introduce(NativeWindow, std::string_view /*applicationIdentifier*/, Listing) {}
     /// Before such a window leaves the screen: if it has the focus, this program keeps it until Workspace returns it,
     /// so that no window manager picks a window meanwhile.
     virtual void keepFocus(NativeWindow) {}

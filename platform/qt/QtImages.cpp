@@ -46,6 +46,12 @@ public:
         paint(&painter, QRect(QPoint(), size), mode, state);
         return pixmap;
     }
+    // What a window's icon is drawn in for the window manager.
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        QList<QSize> sizes;
+        for (const int side : {16, 22, 32, 48, 64, 128}) sizes.append({side, side});
+        return sizes;
+    }
     QIconEngine* clone() const override { return new SvgIconEngine(image_); }
     bool isNull() override { return image_.isNull(); }
 

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "platform/Window.h"
 #include "platform/qt/QtWindowHost.h"
 #include "platform/qt/ScreenSpace.h"
 
@@ -24,6 +25,7 @@ const QScreen* usableMainScreen() {
 }  // namespace
 
 std::unique_ptr<WindowHost> QtWindowSystem::createHost(Window& window) {
+    if (window.contentViewController() != nullptr && controlsHost_) return controlsHost_(window, application_);
     return std::make_unique<QtWindowHost>(window, texts_, application_);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/WindowSystem.h"
 
 namespace orlamo::qt {
@@ -10,7 +12,11 @@ class TextCache;
 /// Needs a QGuiApplication. The collaborators outlive every host.
 class QtWindowSystem final : public WindowSystem {
 public:
-    QtWindowSystem(TextCache& texts, QtApplication& application) : texts_(texts), application_(application) {}
+    /// Makes the host of a window that shows a controller's view.
+    using ControlsHost = std::function<std::unique_ptr<WindowHost>(Window&, QtApplication&)>;
+
+    QtWindowSystem(TextCache& texts, QtApplication& application, ControlsHost controlsHost = {})
+        : texts_(texts), application_(application), controlsHost_(std::move(controlsHost)) {}
 
     std::unique_ptr<WindowHost> createHost(Window& window) override;
     std::optional<Screen> mainScreen() override;
@@ -20,6 +26,7 @@ public:
 private:
     TextCache& texts_;
     QtApplication& application_;
+    ControlsHost controlsHost_;
 };
 
 }  // namespace orlamo::qt

@@ -12,6 +12,7 @@
 
 #include "platform/Bundle.h"
 #include "platform/Log.h"
+#include "platform/qt/QtImages.h"
 
 namespace orlamo::qt {
 
@@ -72,6 +73,7 @@ void applyTheme(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(palette());
     loadStyleSheet(application);
+    QApplication::setWindowIcon(SvgImage(Bundle::shared().bundleIdentifier()).icon());
 }
 
 }  // namespace orlamo::qt

@@ -44,11 +44,6 @@ bool EventMonitors::canMonitor(EventMask mask) const {
     return !(needsKeyboard && !keyboard_.isAvailable()) && !(needsRawEvents && !connection_.extensions().xinput);
 }
 
-void EventMonitors::watchWindow(NativeWindow window) {
-    windows_.watch(static_cast<xcb_window_t>(window));
-    checkFocus();
-}
-
 void EventMonitors::received(const xcb_generic_event_t& event) {
     switch (event.response_type & 0x7f) {
         case XCB_FOCUS_IN:

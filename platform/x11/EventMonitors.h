@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "platform/EventMonitors.h"
-#include "platform/WindowEffects.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/CoreKeyboard.h"
 #include "platform/x11/MonitorList.h"
@@ -23,10 +22,6 @@ public:
     /// manager has to move it first, and the handler asks at once who is in front.
     std::optional<MonitorToken> addLocalMonitor(EventMask mask, LocalHandler handler) override;
     std::optional<MonitorToken> addGlobalMonitor(EventMask mask, GlobalHandler handler) override;
-
-    /// Tells of a window of this program that the user may focus: Escape is then seen there. A window that
-    /// WindowEffects::giveFocus was called for, or that a modifier or a press was seen in, is known already.
-    void watchWindow(NativeWindow window);
 
 private:
     bool canMonitor(EventMask mask) const;

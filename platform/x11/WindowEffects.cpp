@@ -4,6 +4,7 @@
 #include <xcb/shape.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "platform/Log.h"
@@ -17,6 +18,19 @@ namespace {
 
 constexpr std::string_view blurRegion = "_KDE_NET_WM_BLUR_BEHIND_REGION";
 constexpr double keptSeconds = 0.5;
+
+// The actions and the source of a _NET_WM_STATE request.
+constexpr std::uint32_t removeState = 0;
+constexpr std::uint32_t addState = 1;
+constexpr std::uint32_t sourceApplication = 1;
+
+// The class part only: the instance stays what the toolkit made of the command line.
+void setWindowClass(Connection& connection, Windows& windows, xcb_window_t window, std::string_view identifier) {
+    std::string both = windows.text(window, "WM_CLASS");
+    both.append(1, '\0').append(identifier).append(1, '\0');
+    xcb_change_property(connection.xcb(), XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(both.size()), both.data());
+}
 
 }  // namespace
 
@@ -83,9 +97,29 @@ void WindowEffects::shapeRounded(NativeWindow window, int width, int height, int
 
 void WindowEffects::giveFocus(NativeWindow window) {
     const auto own = static_cast<xcb_window_t>(window);
+    if (windows_.hasWindowManager() && !windows_.isUnmanaged(own)) return windows_.activate(own);
     remember();
     windows_.watch(own);
     waitingForMap_ = windows_.setFocus(own) ? 0 : own;
+}
+
+void WindowEffects::introduce(NativeWindow window, std::string_view applicationIdentifier, Listing listing) {
+    const auto own = static_cast<xcb_window_t>(window);
+    windows_.watch(own);  // so that the event monitors hear when the user gives it the focus
+    setWindowClass(connection_, windows_, own, applicationIdentifier);
+    const std::array states{connection_.atom("_NET_WM_STATE_SKIP_TASKBAR"),
+                            connection_.atom("_NET_WM_STATE_SKIP_PAGER")};
+    if (!windows_.numbers(own, "WM_STATE").empty()) {
+        const std::uint32_t change = listing == Listing::unlisted ? addState : removeState;
+        return windows_.sendToManager(own, "_NET_WM_STATE", {change, states[0], states[1], sourceApplication});
+    }
+    // Nobody manages it yet: its own property says how it starts.
+    auto now = windows_.numbers(own, "_NET_WM_STATE");
+    std::erase_if(now, [&states](std::uint32_t state) { return std::ranges::count(states, state) > 0; });
+    if (listing == Listing::unlisted) now.insert(now.end(), states.begin(), states.end());
+    xcb_change_property(connection_.xcb(), XCB_PROP_MODE_REPLACE, own, connection_.atom("_NET_WM_STATE"), XCB_ATOM_ATOM,
+                        32, static_cast<std::uint32_t>(now.size()), now.data());
+    connection_.serverTime();  // done before the toolkit's connection shows the window
 }
 
 void WindowEffects::keepFocus(NativeWindow window) {

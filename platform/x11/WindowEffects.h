@@ -19,6 +19,7 @@ public:
     void shapeRounded(NativeWindow window, int width, int height, int radius) override;
     /// A window that is not on the screen yet gets the focus as soon as it is.
     void giveFocus(NativeWindow window) override;
+    void introduce(NativeWindow window, std::string_view applicationIdentifier, Listing listing) override;
     /// Nothing for a window that the window manager manages, or when there is no window to return the focus to.
     void keepFocus(NativeWindow window) override;
 

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int maximumDepth = 32;
 constexpr std::uint32_t maximumPropertyWords = 16384;
+constexpr std::uint32_t sourcePager = 2;  // the user asked for it, not the application
 
 }  // namespace
 
@@ -91,6 +92,29 @@ bool Windows::setFocus(xcb_window_t window) {
     if (!isViewable(window)) return false;
     const xcb_timestamp_t now = connection_.serverTime();
     return connection_.succeeded(xcb_set_input_focus_checked(connection_.xcb(), XCB_INPUT_FOCUS_PARENT, window, now));
+}
+
+void Windows::activate(xcb_window_t window) {
+    if (!hasWindowManager()) {
+        const std::uint32_t above = XCB_STACK_MODE_ABOVE;
+        xcb_configure_window(connection_.xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+        setFocus(window);
+        return;
+    }
+    sendToManager(window, "_NET_ACTIVE_WINDOW", {sourcePager, connection_.serverTime()});
+}
+
+void Windows::sendToManager(xcb_window_t window, std::string_view type, std::array<std::uint32_t, 5> data) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = connection_.atom(type);
+    std::ranges::copy(data, message.data.data32);
+    xcb_send_event(connection_.xcb(), 0, connection_.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char*>(&message));
+    connection_.flush();
 }
 
 void Windows::watch(xcb_window_t window) {

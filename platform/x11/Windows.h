@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -29,6 +30,10 @@ public:
     bool isUnmanaged(xcb_window_t window);
     /// False when the window cannot take it.
     bool setFocus(xcb_window_t window);
+    /// To the front, with the focus, as when the user asks for it; without a window manager at once.
+    void activate(xcb_window_t window);
+    /// A request about a window in the words of the window managers' convention.
+    void sendToManager(xcb_window_t window, std::string_view type, std::array<std::uint32_t, 5> data);
     /// From now on the connection hears of that window's focus, mapping and end.
     void watch(xcb_window_t window);
 

@@ -8,12 +8,6 @@
 
 namespace orlamo::x11 {
 
-namespace {
-
-constexpr std::uint32_t sourcePager = 2;  // the user asked for it, not the application
-
-}  // namespace
-
 RunningApplication Workspace::ownApplication() const {
     return {::getpid(), ownIdentifier_, ownIdentifier_};
 }
@@ -93,7 +87,7 @@ bool Workspace::activateWithOptions(const RunningApplication& application, unsig
     }
     for (const xcb_window_t window : recentWindows()) {
         if (windows_.applicationProcess(window) != process) continue;
-        requestActivation(window);
+        windows_.activate(window);
         memory_.settled();
         return true;
     }
@@ -108,7 +102,7 @@ bool Workspace::returnFocus(int processIdentifier) {
     // The window manager may have made another window the active one meanwhile.
     const auto active = windows_.activeWindow();
     const xcb_window_t wanted = windows_.applicationWindow(former->window);
-    if (active && *active != wanted) requestActivation(wanted);
+    if (active && *active != wanted) windows_.activate(wanted);
     return true;
 }
 
@@ -120,26 +114,6 @@ bool Workspace::formerIsPutAway(int processIdentifier) {
     const xcb_window_t window = windows_.applicationWindow(former->window);
     const auto managed = windows_.stackedWindows();
     return std::ranges::find(managed, window) != managed.end() && !windows_.isViewable(window);
-}
-
-void Workspace::requestActivation(xcb_window_t window) {
-    if (!windows_.hasWindowManager()) {
-        const std::uint32_t above = XCB_STACK_MODE_ABOVE;
-        xcb_configure_window(connection_.xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
-        windows_.setFocus(window);
-        return;
-    }
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = connection_.atom("_NET_ACTIVE_WINDOW");
-    message.data.data32[0] = sourcePager;
-    message.data.data32[1] = connection_.serverTime();
-    xcb_send_event(connection_.xcb(), 0, connection_.root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   reinterpret_cast<const char*>(&message));
-    connection_.flush();
 }
 
 }  // namespace orlamo::x11

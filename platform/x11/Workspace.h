@@ -42,7 +42,6 @@ private:
     std::vector<xcb_window_t> recentWindows();
     bool returnFocus(int processIdentifier);
     bool formerIsPutAway(int processIdentifier);
-    void requestActivation(xcb_window_t window);
 
     Connection& connection_;
     Windows& windows_;

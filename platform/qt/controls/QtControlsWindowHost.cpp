@@ -1,0 +1,132 @@
+#include "platform/qt/controls/QtControlsWindowHost.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <cmath>
+
+#include "platform/ViewController.h"
+#include "platform/qt/PanelSurface.h"
+#include "platform/qt/QtApplication.h"
+#include "platform/qt/ScreenSpace.h"
+#include "platform/qt/controls/QtInterfaceView.h"
+
+namespace orlamo::qt {
+
+namespace {
+
+QRect mainScreenRect() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? screen->geometry() : QRect();
+}
+
+Qt::WindowFlags flags(const Window& window) {
+    const auto has = [&window](unsigned bit) { return (window.styleMask() & bit) != 0; };
+    Qt::WindowFlags flags = Qt::Window;
+    if (has(Window::titled)) {
+        flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    } else {
+        flags |= Qt::FramelessWindowHint;
+    }
+    if (has(Window::closable)) flags |= Qt::WindowCloseButtonHint;
+    if (has(Window::miniaturizable)) flags |= Qt::WindowMinimizeButtonHint;
+    if (has(Window::resizable)) flags |= Qt::WindowMaximizeButtonHint;
+    if (!window.hasShadow) flags |= Qt::NoDropShadowWindowHint;
+    if (window.level > Window::normalLevel) flags |= Qt::WindowStaysOnTopHint;
+    return flags;
+}
+
+bool isClear(const Window& window) {
+    return !window.isOpaque && window.backgroundColor.alpha < 1;
+}
+
+bool isComposited() {
+    return WindowEffects::isInstalled() && WindowEffects::shared().isComposited();
+}
+
+}  // namespace
+
+void QtControlsWindowHost::frameChanged(const Rect&) {
+    if (shell_ != nullptr) place();
+}
+
+void QtControlsWindowHost::orderFront() {
+    if (shell_ == nullptr) create();
+    if (!shell_->isVisible()) {
+        // The window manager forgets what it knew of a window that went away.
+        application_.managedWindowWillAppear(shell_->winId());
+        shell_->show();
+    } else if (shell_->isMinimized()) {
+        shell_->setWindowState(shell_->windowState() & ~Qt::WindowMinimized);
+    }
+    shell_->raise();
+    PanelSurface::synchronize();
+    application_.managedWindowCameToFront(shell_->winId());
+}
+
+void QtControlsWindowHost::create() {
+    QWidget& content = native(window_.contentViewController()->view()).widget();
+    const bool translucent = isClear(window_) && isComposited();
+    shell_.reset(new ControlsWindow(*this, content, flags(window_),
+                                    translucent ? ControlsWindow::Backdrop::clear : ControlsWindow::Backdrop::opaque));
+    shell_->setWindowTitle(QString::fromStdString(window_.title));
+    place();
+    shell_->winId();  // makes the native window, for what must be known of it before it appears
+    PanelSurface::synchronize();
+    if (translucent && cornerRadius() > 0) shell_->roundCorners(cornerRadius());
+    cutCorners();
+}
+
+void QtControlsWindowHost::place() {
+    const QRect frame = toQt(window_.frame(), mainScreenRect());
+    isPlacing_ = true;
+    if ((window_.styleMask() & Window::resizable) == 0) {
+        shell_->setFixedSize(frame.size());
+    } else {
+        shell_->setMinimumSize(static_cast<int>(window_.minSize.width), static_cast<int>(window_.minSize.height));
+    }
+    shell_->setGeometry(frame);
+    isPlacing_ = false;
+    cutCorners();
+}
+
+double QtControlsWindowHost::cornerRadius() const {
+    const InterfaceView& view = window_.contentViewController()->view();
+    return view.wantsLayer && view.layer.masksToBounds ? view.layer.cornerRadius : 0;
+}
+
+// Where nothing is blended, the window ends at its corners.
+void QtControlsWindowHost::cutCorners() {
+    if (!isClear(window_) || isComposited() || !WindowEffects::isInstalled() || cornerRadius() <= 0) return;
+    if (!shell_->testAttribute(Qt::WA_WState_Created)) return;
+    const double scale = shell_->devicePixelRatioF();
+    const QSize pixels = (QSizeF(shell_->size()) * scale).toSize();
+    WindowEffects::shared().shapeRounded(shell_->winId(), pixels.width(), pixels.height(),
+                                         static_cast<int>(std::lround(cornerRadius() * scale)));
+}
+
+void QtControlsWindowHost::makeKey() {
+    if (shell_ == nullptr) return;
+    if (WindowEffects::isInstalled()) {
+        WindowEffects::shared().giveFocus(shell_->winId());
+    } else {
+        shell_->activateWindow();
+    }
+}
+
+void QtControlsWindowHost::orderOut() {
+    if (shell_ == nullptr) return;
+    application_.managedWindowWentAway(shell_->winId());
+    shell_.reset();
+}
+
+void QtControlsWindowHost::geometryChanged() {
+    if (isPlacing_ || shell_ == nullptr || !shell_->isVisible()) return;
+    window_.frameChangedByUser(fromQt(shell_->geometry(), mainScreenRect()));
+    cutCorners();
+}
+
+void QtControlsWindowHost::becameActive() {
+    application_.managedWindowCameToFront(shell_->winId());
+}
+
+}  // namespace orlamo::qt
