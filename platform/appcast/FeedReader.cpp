@@ -1,44 +1,47 @@
 #include "platform/appcast/FeedReader.h"
 
 #include <QHostAddress>
-#include <QNetworkRequest>
 #include <utility>
 
 namespace orlamo::appcast {
 
 namespace {
 
-constexpr qint64 bufferedBytes = 64 << 10;  // what the network may hold before it is read
+constexpr qint64 bufferedBytes = 64 << 10;  // what the socket may hold before it is read
 
 bool isRedirect(int status) {
     return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
 }
 
-QNetworkRequest requestFor(const QUrl& url, const QByteArray& userAgent) {
-    QNetworkRequest request(url);
-    request.setRawHeader("User-Agent", userAgent);
-    request.setRawHeader("Accept", "application/rss+xml, application/xml, text/xml");
-    request.setRawHeader("Accept-Encoding", "identity");  // what arrives is what is counted
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    return request;
+int portOf(const QUrl& url) {
+    return url.port(url.scheme() == "https" ? 443 : 80);
+}
+
+QByteArray requestFor(const QUrl& url, const QByteArray& userAgent) {
+    const QByteArray path = url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
+    const QByteArray host = url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveUserInfo | QUrl::RemovePath |
+                                          QUrl::RemoveQuery | QUrl::RemoveFragment);
+    return "GET " + (path.startsWith('/') ? path : "/" + path) + " HTTP/1.1\r\n" +
+           "Host: " + host.mid(2) +  // without its two slashes
+           "\r\nUser-Agent: " + userAgent +
+           "\r\nAccept: application/rss+xml, application/xml, text/xml\r\n"
+           "Accept-Encoding: identity\r\n"  // what arrives is what is counted
+           "Connection: close\r\n\r\n";
 }
 
 }  // namespace
 
-void FeedReader::Deletion::operator()(QNetworkReply* reply) const {
-    reply->disconnect();
-    reply->abort();
-    reply->deleteLater();
+void FeedReader::Deletion::operator()(QSslSocket* socket) const {
+    socket->disconnect();
+    // Not inside its own signal: it still has to say the rest of what it has begun.
+    QTimer::singleShot(0, socket, [socket] {
+        socket->abort();
+        socket->deleteLater();
+    });
 }
 
 FeedReader::FeedReader(Transport transport, Limits limits, QByteArray userAgent)
-    : transport_(transport), limits_(limits), userAgent_(std::move(userAgent)) {
+    : transport_(transport), limits_(limits), userAgent_(std::move(userAgent)), answer_(limits.bytes) {
     for (QTimer* const timer : {&connecting_, &total_}) timer->setSingleShot(true);
     QObject::connect(&connecting_, &QTimer::timeout,
                      [this] { fail(Outcome::timedOut, "no connection within the time for it"); });
@@ -50,7 +53,7 @@ void FeedReader::fetch(const QUrl& url, Done done) {
     done_ = std::move(done);
     total_.start(limits_.total);
     if (!mayFetch(url)) return fail(Outcome::badFeedAddress, "its address is not https");
-    request(url);
+    connectTo(url);
 }
 
 bool FeedReader::mayFetch(const QUrl& url) const {
@@ -59,55 +62,69 @@ bool FeedReader::mayFetch(const QUrl& url) const {
     return transport_ == Transport::httpsOrLoopback && url.scheme() == "http" && QHostAddress(url.host()).isLoopback();
 }
 
-void FeedReader::request(const QUrl& url) {
+void FeedReader::connectTo(const QUrl& url) {
+    url_ = url;
+    answer_ = HttpAnswer(limits_.bytes);
     connecting_.start(limits_.connecting);
-    reply_.reset(network_.get(requestFor(url, userAgent_)));
-    QNetworkReply* const reply = reply_.get();
-    reply->setReadBufferSize(bufferedBytes);
-    QObject::connect(reply, &QNetworkReply::requestSent, &connecting_, &QTimer::stop);
-    QObject::connect(reply, &QNetworkReply::metaDataChanged, &total_, [this] { readHeaders(); });
-    QObject::connect(reply, &QNetworkReply::readyRead, &total_, [this] { readBody(); });
-    QObject::connect(reply, &QNetworkReply::finished, &total_, [this] { replyFinished(); });
+    socket_.reset(new QSslSocket);
+    QSslSocket* const socket = socket_.get();
+    socket->setReadBufferSize(bufferedBytes);
+    socket->setProtocolTag(url.scheme());  // for the user's proxy of that protocol
+    const bool isSecure = url.scheme() == "https";
+    QObject::connect(socket, isSecure ? &QSslSocket::encrypted : &QSslSocket::connected, &total_,
+                     [this] { sendRequest(); });
+    QObject::connect(socket, &QSslSocket::readyRead, &total_, [this] { read(); });
+    QObject::connect(socket, &QSslSocket::errorOccurred, &total_,
+                     [this](QAbstractSocket::SocketError error) { connectionFailed(error); });
+    const QString host = url.host(QUrl::FullyEncoded);
+    const auto port = static_cast<quint16>(portOf(url));
+    if (isSecure) {
+        socket->connectToHostEncrypted(host, port);
+    } else {
+        socket->connectToHost(host, port);
+    }
 }
 
-void FeedReader::readHeaders() {
+void FeedReader::sendRequest() {
     connecting_.stop();
-    const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (isRedirect(status)) return followRedirect();
-    if (status != 200) return fail(Outcome::refused, "it answered with status " + std::to_string(status));
-    const QByteArray encoding = reply_->rawHeader("Content-Encoding").trimmed().toLower();
-    if (!encoding.isEmpty() && encoding != "identity") return fail(Outcome::unreadable, "its answer is encoded");
-    if (reply_->header(QNetworkRequest::ContentLengthHeader).toLongLong() > limits_.bytes) {
-        return fail(Outcome::tooLarge, "its answer is too large");
+    socket_->write(requestFor(url_, userAgent_));
+}
+
+void FeedReader::read() {
+    judge(answer_.take(socket_->readAll()));
+}
+
+void FeedReader::connectionFailed(QAbstractSocket::SocketError error) {
+    const QSslSocket* const socket = socket_.get();
+    if (error == QAbstractSocket::RemoteHostClosedError) {
+        read();
+        if (socket_.get() != socket) return;  // that was the end of it, or a redirect
+        if (answer_.end() == HttpAnswer::State::complete) return judge(HttpAnswer::State::complete);
     }
+    const bool noTrust = error == QAbstractSocket::SslHandshakeFailedError;
+    fail(noTrust ? Outcome::untrusted : Outcome::unreachable, socket->errorString().toStdString());
+}
+
+void FeedReader::judge(HttpAnswer::State state) {
+    const int status = answer_.status();
+    if (state == HttpAnswer::State::broken) return fail(Outcome::unreachable, "its answer makes no sense");
+    if (isRedirect(status)) return followRedirect();
+    if (status != 0 && status != 200) {
+        return fail(Outcome::refused, "it answered with status " + std::to_string(status));
+    }
+    const QByteArray encoding = answer_.header("content-encoding").toLower();
+    if (!encoding.isEmpty() && encoding != "identity") return fail(Outcome::unreadable, "its answer is encoded");
+    if (state == HttpAnswer::State::tooLarge) return fail(Outcome::tooLarge, "its answer is too large");
+    if (state == HttpAnswer::State::complete) finish({.failure = {}, .body = answer_.body(), .detail = {}});
 }
 
 void FeedReader::followRedirect() {
-    const QUrl from = reply_->url();
-    const QUrl target = from.resolved(reply_->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl());
+    const QUrl location(QString::fromUtf8(answer_.header("location")), QUrl::StrictMode);
+    const QUrl target = location.isEmpty() ? location : url_.resolved(location);
     if (++redirects_ > limits_.redirects) return fail(Outcome::tooManyRedirects, "it sends on too often");
-    const bool isDowngrade = from.scheme() == "https" && target.scheme() != "https";
+    const bool isDowngrade = url_.scheme() == "https" && target.scheme() != "https";
     if (isDowngrade || !mayFetch(target)) return fail(Outcome::insecureRedirect, "it sends on to what is not https");
-    // The reply that is being read may not go away inside its own signal.
-    QTimer::singleShot(0, &total_, [this, target] {
-        if (done_) request(target);
-    });
-    reply_->disconnect(&total_);
-}
-
-void FeedReader::readBody() {
-    body_ += reply_->readAll();
-    if (body_.size() > limits_.bytes) fail(Outcome::tooLarge, "its answer is too large");
-}
-
-void FeedReader::replyFinished() {
-    const QNetworkReply::NetworkError error = reply_->error();
-    if (error == QNetworkReply::SslHandshakeFailedError) {
-        return fail(Outcome::untrusted, reply_->errorString().toStdString());
-    }
-    if (error != QNetworkReply::NoError) return fail(Outcome::unreachable, reply_->errorString().toStdString());
-    readBody();
-    finish({.failure = std::nullopt, .body = std::move(body_), .detail = {}});
+    connectTo(target);
 }
 
 void FeedReader::fail(Outcome failure, const std::string& detail) {
@@ -118,8 +135,8 @@ void FeedReader::finish(FetchResult result) {
     if (!done_) return;
     connecting_.stop();
     total_.stop();
-    reply_.reset();
-    // Not now: whoever gets it may destroy this, and the reply with it, inside the reply's own signal.
+    socket_.reset();
+    // Not now: whoever gets it may destroy this while it is still at work.
     QTimer::singleShot(0, &total_, [done = std::exchange(done_, nullptr), result = std::move(result)]() mutable {
         done(std::move(result));
     });

@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
+#include <QSslSocket>
 #include <QTimer>
 #include <QUrl>
 #include <chrono>
@@ -11,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/appcast/HttpAnswer.h"
 #include "platform/appcast/Outcome.h"
 
 namespace orlamo::appcast {
@@ -46,15 +46,16 @@ public:
 
 private:
     struct Deletion {
-        void operator()(QNetworkReply* reply) const;
+        void operator()(QSslSocket* socket) const;
     };
 
     bool mayFetch(const QUrl& url) const;
-    void request(const QUrl& url);
-    void readHeaders();
+    void connectTo(const QUrl& url);
+    void sendRequest();
+    void read();
+    void connectionFailed(QAbstractSocket::SocketError error);
+    void judge(HttpAnswer::State state);
     void followRedirect();
-    void readBody();
-    void replyFinished();
     void fail(Outcome failure, const std::string& detail);
     void finish(FetchResult result);
 
@@ -62,12 +63,12 @@ private:
     const Limits limits_;
     const QByteArray userAgent_;
     Done done_;
-    QNetworkAccessManager network_;
     QTimer connecting_;
     QTimer total_;
+    QUrl url_;  // that is being fetched
     int redirects_ = 0;
-    QByteArray body_;
-    std::unique_ptr<QNetworkReply, Deletion> reply_;
+    HttpAnswer answer_;
+    std::unique_ptr<QSslSocket, Deletion> socket_;
 };
 
 }  // namespace orlamo::appcast
