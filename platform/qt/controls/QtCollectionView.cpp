@@ -1,5 +1,6 @@
 #include "platform/qt/controls/QtCollectionView.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -100,18 +101,21 @@ private:
         selected_ = item;
         if (native() == nullptr) return;
         native()->update();
-        if (item >= 0) scrollIntoSight(static_cast<std::size_t>(item));
+        scrollIntoSight(item);
     }
 
-    void scrollIntoSight(std::size_t item) {
-        QWidget* around = native()->parentWidget();
-        while (around != nullptr && qobject_cast<QScrollArea*>(around) == nullptr) around = around->parentWidget();
-        auto* const area = qobject_cast<QScrollArea*>(around);
-        if (area == nullptr || area->widget() == nullptr) return;
-        const QRect rect = frame(item).toAlignedRect().translated(native()->mapTo(area->widget(), QPoint()));
-        // The upper end counts where not both do.
-        area->ensureVisible(rect.left(), rect.bottom(), 0, 0);
-        area->ensureVisible(rect.left(), rect.top(), 0, 0);
+    // In whatever the view stands in.
+    void scrollIntoSight(int item) {
+        if (item < 0 || item >= static_cast<int>(items_.size())) return;
+        const QRect rect = frame(static_cast<std::size_t>(item)).toAlignedRect();
+        for (QWidget* around = native()->parentWidget(); around != nullptr; around = around->parentWidget()) {
+            auto* const area = qobject_cast<QScrollArea*>(around);
+            if (area == nullptr || area->widget() == nullptr) continue;
+            const QRect place = rect.translated(native()->mapTo(area->widget(), QPoint()));
+            // The upper end counts where not both do.
+            area->ensureVisible(place.left(), place.bottom(), 0, 0);
+            area->ensureVisible(place.left(), place.top(), 0, 0);
+        }
     }
 
     void press(QPointF position) {
@@ -179,6 +183,8 @@ private:
                 paintHighlight();
                 break;
             case QEvent::FocusIn:
+                if (QApplication::mouseButtons() == Qt::NoButton) scrollIntoSight(std::max(selected_, 0));
+                [[fallthrough]];
             case QEvent::FocusOut:
                 native()->update();
                 break;

@@ -106,6 +106,8 @@ private:
     void showFocus(QWidget* now) {
         // What is pressed is in sight.
         if (!document_ || now == nullptr || QApplication::mouseButtons() != Qt::NoButton) return;
+        // What is larger sees to its parts itself.
+        if (now->height() > native()->viewport()->height()) return;
         if (document_->isAncestorOf(now)) native()->ensureWidgetVisible(now, focusMargin, focusMargin);
     }
 
