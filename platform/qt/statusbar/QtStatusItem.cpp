@@ -1,0 +1,154 @@
+#include "platform/qt/statusbar/QtStatusItem.h"
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QCursor>
+#include <QIcon>
+#include <QPalette>
+#include <string>
+
+#include "platform/Log.h"
+#include "platform/RunLoop.h"
+#include "platform/qt/QtImages.h"
+
+namespace orlamo::qt {
+
+namespace {
+
+constexpr int iconSizes[] = {16, 22, 24, 32, 48, 64};  // pixels
+constexpr int menuIconSize = 32;                       // pixels; panels make it smaller
+constexpr QRgb inkOnDark = 0xffdedede;
+constexpr QRgb inkOnLight = 0xff3b3b3b;
+constexpr QRgb inkOnAny = 0xff808080;  // a panel's menus need not be like the panel
+// Panels that know the symbolic kind of a theme's icons colour it themselves.
+constexpr auto symbolicIcon = "app.orlamo.Orlamo-symbolic";
+constexpr auto connectionName = "orlamo-status-item";
+
+QImage drawn(const NamedImage& image, int size, QColor ink) {
+    if (image.name.empty()) return {};
+    return SvgImage(image.name, image.isTemplate ? ink : QColor()).picture(QSize(size, size));
+}
+
+QDBusConnection sessionBus() {
+    auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        logLine("status icon: no session bus, so only the X server's notification area: " +
+                bus.lastError().message().toStdString());
+    }
+    return bus;
+}
+
+}  // namespace
+
+class QtStatusItem::BusItem {
+public:
+    BusItem(std::function<void()> popUp, MenuPicture picture)
+        : connection_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName)),
+          item(std::move(popUp)),
+          menu(std::move(picture)) {
+        constexpr auto contents = QDBusConnection::ExportAllContents;
+        connection_.registerObject(NotifierService::path, &item, contents);
+        connection_.registerObject(NotifierService::menuPath, &menu, contents);
+        connection_.registerService(service);
+    }
+    ~BusItem() {
+        connection_.unregisterService(service);
+        QDBusConnection::disconnectFromBus(connectionName);
+    }
+
+    const QString service = QString("org.kde.StatusNotifierItem-%1-1").arg(::getpid());
+
+private:
+    QDBusConnection connection_;
+
+public:
+    NotifierService item;
+    MenuService menu;
+};
+
+QtStatusItem::QtStatusItem(x11::Connection& connection)
+    : connection_(connection),
+      hosts_(sessionBus(), [this] { place(); }),
+      colors_(QDBusConnection::sessionBus(), [this] { updateBusIcon(); }) {
+    registerBusValues();
+}
+
+QtStatusItem::~QtStatusItem() = default;
+
+void QtStatusItem::setImage(const NamedImage& image) {
+    image_ = image;
+    updateBusIcon();
+    if (trayIcon_) trayIcon_->repaint();
+}
+
+void QtStatusItem::setMenu(const Menu& menu) {
+    menu_ = menu;
+    if (busItem_) busItem_->menu.setMenu(menu_);
+    popUp_.clear();
+    for (const MenuItem& item : menu_.items) {
+        if (item.kind == MenuItem::Kind::separator) {
+            popUp_.addSeparator();
+            continue;
+        }
+        QAction* const action = popUp_.addAction(QString::fromStdString(item.title).replace('&', "&&"));
+        const QImage image = drawn(item.image, menuIconSize, popUp_.palette().color(QPalette::WindowText));
+        if (!image.isNull()) action->setIcon(QIcon(QPixmap::fromImage(image)));
+        action->setEnabled(bool(item.action));
+        QObject::connect(action, &QAction::triggered, [run = item.action] { RunLoop::shared().asyncAfter(0, run); });
+    }
+}
+
+void QtStatusItem::setVisible(bool visible) {
+    if (visible == isVisible_) return;
+    isVisible_ = visible;
+    place();
+}
+
+void QtStatusItem::place() {
+    const auto state = hosts_.state();
+    const bool isOnBus = isVisible_ && state == NotifierHosts::State::there;
+    if (!isOnBus) busItem_.reset();
+    const bool isInTray = isVisible_ && state == NotifierHosts::State::none;
+    if (!isInTray) trayIcon_.reset();
+    if (isInTray && !trayIcon_) {
+        trayIcon_.emplace(
+            connection_, [this](int size, std::uint32_t ink) { return picture(size, ink); }, [this] { popUpMenu(); });
+    }
+    if (!isOnBus) return;
+    if (!busItem_) {
+        const auto menuPicture = [](const NamedImage& image) { return drawn(image, menuIconSize, QColor(inkOnAny)); };
+        busItem_ = std::make_unique<BusItem>([this] { popUpMenu(); }, menuPicture);
+        busItem_->menu.setMenu(menu_);
+        updateBusIcon();
+    }
+    hosts_.registerItem(busItem_->service);
+}
+
+void QtStatusItem::updateBusIcon() {
+    if (!busItem_) return;
+    const QColor ink(colors_.isLight() ? inkOnLight : inkOnDark);
+    IconPixmaps pixmaps;
+    for (const int size : iconSizes) {
+        if (const QImage image = drawn(image_, size, ink); !image.isNull()) pixmaps.append(iconPixmap(image));
+    }
+    const bool isInTheme = image_.isTemplate && QIcon::hasThemeIcon(symbolicIcon);
+    busItem_->item.setIcon(isInTheme ? symbolicIcon : QString(), pixmaps);
+}
+
+PixelImage QtStatusItem::picture(int size, std::uint32_t ink) const {
+    const QImage image = drawn(image_, size, QColor(QRgb(0xff000000 | ink)));
+    const QImage plain = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    PixelImage pixels{plain.width(), plain.height(), {}};
+    for (int y = 0; y < plain.height(); ++y) {
+        const auto* const row = reinterpret_cast<const std::uint32_t*>(plain.constScanLine(y));
+        pixels.pixels.insert(pixels.pixels.end(), row, row + plain.width());
+    }
+    return pixels;
+}
+
+void QtStatusItem::popUpMenu() {
+    if (!popUp_.isEmpty()) popUp_.popup(QCursor::pos());
+}
+
+}  // namespace orlamo::qt

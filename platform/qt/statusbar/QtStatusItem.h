@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QMenu>
+#include <memory>
+#include <optional>
+
+#include "platform/StatusBar.h"
+#include "platform/qt/statusbar/ColorScheme.h"
+#include "platform/qt/statusbar/MenuService.h"
+#include "platform/qt/statusbar/NotifierHosts.h"
+#include "platform/qt/statusbar/NotifierService.h"
+#include "platform/x11/TrayIcon.h"
+
+namespace orlamo::qt {
+
+/// One icon in one place at a time: on the bus while a panel there draws it, else in the notification area.
+class QtStatusItem final : public StatusItem {
+public:
+    explicit QtStatusItem(x11::Connection& connection);
+    ~QtStatusItem() override;
+
+    void setImage(const NamedImage& image) override;
+    void setMenu(const Menu& menu) override;
+    bool isVisible() const override { return isVisible_; }
+    void setVisible(bool visible) override;
+
+private:
+    /// The item's objects on a bus connection of their own, which takes them off the panel when it closes.
+    class BusItem;
+
+    void place();
+    void updateBusIcon();
+    void popUpMenu();
+    PixelImage picture(int size, std::uint32_t ink) const;
+
+    x11::Connection& connection_;
+    NamedImage image_;
+    Menu menu_;
+    bool isVisible_ = false;
+    QMenu popUp_;
+    NotifierHosts hosts_;
+    ColorScheme colors_;
+    std::unique_ptr<BusItem> busItem_;
+    std::optional<x11::TrayIcon> trayIcon_;
+};
+
+}  // namespace orlamo::qt
