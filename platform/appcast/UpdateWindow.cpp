@@ -16,6 +16,7 @@ constexpr int windowWidth = 460;
 constexpr int margin = 28;
 constexpr int spacing = 12;
 constexpr int notesHeight = 180;
+constexpr int iconSize = 64;
 
 /// The table's text with the value in the place of its %@.
 std::string localized(std::string_view key, std::string_view value) {
@@ -59,7 +60,7 @@ void setText(QLabel& label, const std::string& text) {
 
 }  // namespace
 
-UpdateWindow::UpdateWindow() {
+UpdateWindow::UpdateWindow(qt::QtApplication* program) : program_(program) {
     setObjectName("updateWindow");
     setWindowTitle(QString::fromStdString(NSLocalizedString("update.window.title")));
     build();
@@ -72,10 +73,12 @@ void UpdateWindow::build() {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
-    QFont large = title_.font();
-    large.setPointSizeF(large.pointSizeF() * 1.4);
-    large.setBold(true);
-    title_.setFont(large);
+    // How the style sheet knows them.
+    title_.setProperty("role", "subtitle");
+    message_.setProperty("role", "body");
+    const QIcon icon = windowIcon();
+    icon_.setPixmap(icon.pixmap(iconSize, iconSize));
+    icon_.setVisible(!icon.isNull());
 
     progress_.setObjectName("updateProgress");
     progress_.setTextVisible(false);
@@ -101,13 +104,25 @@ void UpdateWindow::build() {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);
-    column->addWidget(&title_);
-    column->addWidget(&message_);
-    column->addWidget(&progress_);
+    column->addLayout(buildWords());
     column->addWidget(&notes_, 1);
     column->addSpacing(spacing);
     column->addLayout(buttons);
     setMinimumWidth(windowWidth);
+}
+
+QLayout* UpdateWindow::buildWords() {
+    auto* const words = new QVBoxLayout;
+    words->setSpacing(spacing);
+    words->addWidget(&title_);
+    words->addWidget(&message_);
+    words->addWidget(&progress_);
+    words->addStretch();
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(margin);
+    row->addWidget(&icon_, 0, Qt::AlignTop);
+    row->addLayout(words, 1);
+    return row;
 }
 
 void UpdateWindow::showChecking() {
@@ -161,9 +176,20 @@ void UpdateWindow::show(const std::string& title, const std::string& message) {
 }
 
 void UpdateWindow::bringForward() {
+    if (program_ != nullptr && !isVisible()) program_->managedWindowWillAppear(winId());
     QDialog::show();
     raise();
-    activateWindow();
+    if (program_ != nullptr) program_->managedWindowCameToFront(winId());
+    if (WindowEffects::isInstalled()) {
+        WindowEffects::shared().giveFocus(winId());
+    } else {
+        activateWindow();
+    }
+}
+
+void UpdateWindow::hideEvent(QHideEvent* event) {
+    if (program_ != nullptr) program_->managedWindowWentAway(winId());
+    QDialog::hideEvent(event);
 }
 
 void UpdateWindow::openPage() {

@@ -8,13 +8,15 @@
 #include <string>
 
 #include "platform/appcast/UpdateCheck.h"
+#include "platform/qt/QtApplication.h"
 
 namespace orlamo::appcast {
 
 /// What a check shows: that it runs, and how it ended. Escape closes it.
 class UpdateWindow final : public QDialog {
 public:
-    UpdateWindow();
+    /// `program` hears of the window, so that the desktop lists it as the program's others; may be null.
+    explicit UpdateWindow(qt::QtApplication* program);
 
     void showChecking();
     /// `currentVersion`, the program's own, stands in some of the texts.
@@ -23,12 +25,18 @@ public:
     /// To the front of the screen, with the keyboard where the desktop lets it.
     void bringForward();
 
+protected:
+    void hideEvent(QHideEvent* event) override;
+
 private:
     void build();
+    QLayout* buildWords();
     void show(const std::string& title, const std::string& message);
     void showNewVersion(const Item& item, const std::string& currentVersion);
     void openPage();
 
+    qt::QtApplication* const program_;
+    QLabel icon_;
     QLabel title_;
     QLabel message_;
     QProgressBar progress_;

@@ -27,8 +27,9 @@ public:
 
 }  // namespace
 
-UpdaterController::UpdaterController(std::unique_ptr<SPUUpdaterDelegate> delegate, const Options& options)
-    : delegate_(std::move(delegate)), options_(options) {}
+UpdaterController::UpdaterController(std::unique_ptr<SPUUpdaterDelegate> delegate, const Options& options,
+                                     qt::QtApplication* program)
+    : delegate_(std::move(delegate)), options_(options), program_(program) {}
 
 UpdaterController::~UpdaterController() {
     if (window_ != nullptr) window_->disconnect();
@@ -54,7 +55,7 @@ void UpdaterController::checkForUpdates(Origin origin) {
 
 UpdateWindow& UpdaterController::window() {
     if (window_ == nullptr) {
-        window_ = std::make_unique<UpdateWindow>();
+        window_ = std::make_unique<UpdateWindow>(program_);
         QObject::connect(window_.get(), &QDialog::finished, [this] { windowClosed(); });
     }
     return *window_;
@@ -73,7 +74,7 @@ void UpdaterController::windowClosed() {
 std::unique_ptr<SPUStandardUpdaterController> Updater::initWithStartingUpdater(
     StartingUpdater starting, std::unique_ptr<SPUUpdaterDelegate> updaterDelegate) {
     if (starting == StartingUpdater::no) return std::make_unique<IdleController>();
-    return std::make_unique<UpdaterController>(std::move(updaterDelegate), options_);
+    return std::make_unique<UpdaterController>(std::move(updaterDelegate), options_, program_);
 }
 
 }  // namespace orlamo::appcast

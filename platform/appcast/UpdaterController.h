@@ -12,7 +12,7 @@ namespace orlamo::appcast {
 /// Runs one check at a time and shows it in one window. Asks the bundle for SUFeedURL and CFBundleShortVersionString.
 class UpdaterController final : public SPUStandardUpdaterController {
 public:
-    UpdaterController(std::unique_ptr<SPUUpdaterDelegate> delegate, const Options& options);
+    UpdaterController(std::unique_ptr<SPUUpdaterDelegate> delegate, const Options& options, qt::QtApplication* program);
     ~UpdaterController() override;
 
     /// While a check runs this only brings its window forward; closing the window cancels the check.
@@ -25,6 +25,7 @@ private:
 
     const std::unique_ptr<SPUUpdaterDelegate> delegate_;
     const Options options_;
+    qt::QtApplication* const program_;
     std::unique_ptr<UpdateWindow> window_;  // while it is open
     std::unique_ptr<UpdateCheck> check_;    // while it runs
 };
@@ -32,11 +33,14 @@ private:
 /// Makes controllers of this kind. One that is not started checks nothing.
 class Updater final : public Updates {
 public:
-    explicit Updater(const Options& options = {}) : options_(options) {}
+    /// `program` hears of the windows, so that the desktop lists them as the program's others; may be null.
+    explicit Updater(qt::QtApplication* program = nullptr, const Options& options = {})
+        : program_(program), options_(options) {}
     std::unique_ptr<SPUStandardUpdaterController> initWithStartingUpdater(
         StartingUpdater starting, std::unique_ptr<SPUUpdaterDelegate> updaterDelegate) override;
 
 private:
+    qt::QtApplication* const program_;
     const Options options_;
 };
 

@@ -42,7 +42,7 @@ protected:
 
     FakeBundle bundle;
     FakeWorkspace workspace;
-    Updater updater{{.transport = Transport::httpsOrLoopback, .limits = {}}};
+    Updater updater{nullptr, {.transport = Transport::httpsOrLoopback, .limits = {}}};
     std::unique_ptr<SPUStandardUpdaterController> controller =
         updater.initWithStartingUpdater(Updates::StartingUpdater::yes, std::make_unique<Channels>());
 };
@@ -111,7 +111,7 @@ TEST_F(UpdaterControllerTest, EveryOutcomeHasWordsOfItsOwn) {
     std::set<std::string> messages;
     const int last = static_cast<int>(Outcome::unreadable);
     for (int outcome = 0; outcome <= last; ++outcome) {
-        UpdateWindow shown;
+        UpdateWindow shown(nullptr);
         shown.bringForward();
         shown.showResult({static_cast<Outcome>(outcome), Item{}}, "1.0");
         EXPECT_TRUE(messages.insert(text("updateMessage")).second) << outcome;
