@@ -9,6 +9,7 @@
 #include "platform/Log.h"
 #include "platform/x11/Blend.h"
 #include "platform/x11/ScreenCopy.h"
+#include "platform/x11/Tray.h"
 #include "platform/x11/TrayInk.h"
 #include "platform/x11/Windows.h"
 
@@ -16,7 +17,8 @@ namespace orlamo::x11 {
 
 namespace {
 
-constexpr int firstSize = 24;  // pixels; the panel gives another one
+constexpr int firstSize = 22;  // pixels; most panels give another one
+constexpr std::uint32_t hintedMinimumSize = 1U << 4;
 constexpr int largestSize = 128;
 constexpr std::uint32_t requestDockOpcode = 0;
 constexpr std::uint32_t embedVersion = 0;
@@ -35,11 +37,8 @@ TrayIcon::TrayIcon(Connection& connection, Draw draw, Clicked clicked)
     : connection_(connection),
       draw_(std::move(draw)),
       clicked_(std::move(clicked)),
-      selection_(connection.atom("_NET_SYSTEM_TRAY_S" + std::to_string(connection.screenNumber()))),
+      selection_(traySelection(connection)),
       events_(connection.subscribe([this](const xcb_generic_event_t& event) { handle(event); })) {
-    // A panel that comes tells the root window.
-    const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-    xcb_change_window_attributes(connection_.xcb(), connection_.root(), XCB_CW_EVENT_MASK, &mask);
     dock();
 }
 
@@ -50,16 +49,7 @@ TrayIcon::~TrayIcon() {
 
 void TrayIcon::dock() {
     undock();
-    xcb_connection_t* const xcb = connection_.xcb();
-    // The panel must not end between our finding it and our watching it.
-    xcb_grab_server(xcb);
-    const auto owner = connection_.reply(xcb_get_selection_owner_reply, xcb_get_selection_owner(xcb, selection_));
-    tray_ = owner ? owner->owner : xcb_window_t{XCB_WINDOW_NONE};
-    if (tray_ != XCB_WINDOW_NONE) {
-        const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
-        xcb_change_window_attributes(xcb, tray_, XCB_CW_EVENT_MASK, &mask);
-    }
-    xcb_ungrab_server(xcb);
+    tray_ = watchTray(connection_, selection_);
     if (tray_ != XCB_WINDOW_NONE) {
         createWindow(visualOfTray());
         requestDock();
@@ -123,6 +113,9 @@ void TrayIcon::describeWindow() {
     setText(XCB_ATOM_WM_NAME, XCB_ATOM_STRING, name);
     setText(connection_.atom("_NET_WM_NAME"), connection_.atom("UTF8_STRING"), name);
     setNumbers(connection_.atom("_NET_WM_PID"), XCB_ATOM_CARDINAL, {static_cast<std::uint32_t>(::getpid())});
+    // Some panels ask for a size instead of giving one: flags, four unused numbers, the least size, ten more.
+    setNumbers(XCB_ATOM_WM_NORMAL_HINTS, XCB_ATOM_WM_SIZE_HINTS,
+               {hintedMinimumSize, 0, 0, 0, 0, firstSize, firstSize, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
     const xcb_atom_t embedding = connection_.atom("_XEMBED_INFO");
     setNumbers(embedding, embedding, {embedVersion, embedMapped});
 }
@@ -140,27 +133,12 @@ void TrayIcon::requestDock() {
 }
 
 void TrayIcon::handle(const xcb_generic_event_t& event) {
+    if (isNewTray(connection_, selection_, event) || isEndOf(tray_, event)) return dock();
+    if (isTrayColorChange(connection_, tray_, event)) return repaint();
     switch (event.response_type & 0x7f) {
-        case XCB_CLIENT_MESSAGE: {
-            const auto& message = as<xcb_client_message_event_t>(event);
-            const bool isNewTray = message.window == connection_.root() &&
-                                   message.type == connection_.atom("MANAGER") &&
-                                   message.data.data32[1] == selection_ && message.data.data32[2] != tray_;
-            if (isNewTray) dock();
-            break;
-        }
-        case XCB_DESTROY_NOTIFY:
-            if (tray_ != XCB_WINDOW_NONE && as<xcb_destroy_notify_event_t>(event).window == tray_) dock();
-            break;
         case XCB_REPARENT_NOTIFY:
             handleReparent(as<xcb_reparent_notify_event_t>(event));
             break;
-        case XCB_PROPERTY_NOTIFY: {
-            const auto& change = as<xcb_property_notify_event_t>(event);
-            const bool isOfTray = tray_ != XCB_WINDOW_NONE && change.window == tray_;
-            if (isOfTray && change.atom == connection_.atom("_NET_SYSTEM_TRAY_COLORS")) repaint();
-            break;
-        }
         case XCB_CONFIGURE_NOTIFY: {
             const auto& configured = as<xcb_configure_notify_event_t>(event);
             if (configured.window != window_) break;

@@ -18,11 +18,14 @@ std::uint64_t brightness(std::uint32_t pixel) {
 
 }  // namespace
 
+std::optional<std::uint32_t> panelForeground(std::span<const std::uint32_t> panelColors) {
+    if (panelColors.size() < 3) return std::nullopt;
+    const auto eightBits = [&panelColors](std::size_t i) { return panelColors[i] >> 8 & 0xff; };
+    return eightBits(0) << 16 | eightBits(1) << 8 | eightBits(2);
+}
+
 std::uint32_t trayInk(std::span<const std::uint32_t> panelColors, const PixelImage& background) {
-    if (panelColors.size() >= 3) {
-        const auto eightBits = [&panelColors](std::size_t i) { return panelColors[i] >> 8 & 0xff; };
-        return eightBits(0) << 16 | eightBits(1) << 8 | eightBits(2);
-    }
+    if (const auto foreground = panelForeground(panelColors)) return *foreground;
     if (background.pixels.empty()) return lightInk;
     std::uint64_t sum = 0;
     for (const std::uint32_t pixel : background.pixels) sum += brightness(pixel);

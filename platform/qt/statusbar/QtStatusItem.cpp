@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QFileInfo>
 #include <QIcon>
 #include <QPalette>
 #include <string>
@@ -30,12 +31,16 @@ QImage drawn(const NamedImage& image, int size, QColor ink) {
     return SvgImage(image.name, image.isTemplate ? ink : QColor()).picture(QSize(size, size));
 }
 
+// Without this look the bus's library might start a bus of its own, on which nobody is.
+bool isThereABus() {
+    if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) return true;
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !folder.isEmpty() && QFileInfo::exists(folder + "/bus");
+}
+
 QDBusConnection sessionBus() {
-    auto bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
-        logLine("status icon: no session bus, so only the X server's notification area: " +
-                bus.lastError().message().toStdString());
-    }
+    const QDBusConnection bus = isThereABus() ? QDBusConnection::sessionBus() : QDBusConnection(QString());
+    if (!bus.isConnected()) logLine("status icon: no session bus, so only the X server's notification area");
     return bus;
 }
 
@@ -69,8 +74,10 @@ public:
 
 QtStatusItem::QtStatusItem(x11::Connection& connection)
     : connection_(connection),
-      hosts_(sessionBus(), [this] { place(); }),
-      colors_(QDBusConnection::sessionBus(), [this] { updateBusIcon(); }) {
+      bus_(sessionBus()),
+      hosts_(bus_, [this] { place(); }),
+      scheme_(bus_, [this] { updateBusIcon(); }),
+      panelColor_(connection, [this] { updateBusIcon(); }) {
     registerBusValues();
 }
 
@@ -125,9 +132,16 @@ void QtStatusItem::place() {
     hosts_.registerItem(busItem_->service);
 }
 
+/// Items on the bus are not told what the panel looks like. Most panels have both kinds of icons, and tell it to the
+/// other kind.
+QColor QtStatusItem::busInk() const {
+    if (const auto foreground = panelColor_.foreground()) return QColor(QRgb(*foreground));
+    return QColor(scheme_.isLight() ? inkOnLight : inkOnDark);
+}
+
 void QtStatusItem::updateBusIcon() {
     if (!busItem_) return;
-    const QColor ink(colors_.isLight() ? inkOnLight : inkOnDark);
+    const QColor ink = busInk();
     IconPixmaps pixmaps;
     for (const int size : iconSizes) {
         if (const QImage image = drawn(image_, size, ink); !image.isNull()) pixmaps.append(iconPixmap(image));
@@ -137,7 +151,7 @@ void QtStatusItem::updateBusIcon() {
 }
 
 PixelImage QtStatusItem::picture(int size, std::uint32_t ink) const {
-    const QImage image = drawn(image_, size, QColor(QRgb(0xff000000 | ink)));
+    const QImage image = drawn(image_, size, QColor(QRgb(ink)));
     const QImage plain = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     PixelImage pixels{plain.width(), plain.height(), {}};
     for (int y = 0; y < plain.height(); ++y) {

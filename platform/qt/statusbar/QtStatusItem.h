@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QMenu>
 #include <memory>
 #include <optional>
@@ -9,6 +10,7 @@
 #include "platform/qt/statusbar/MenuService.h"
 #include "platform/qt/statusbar/NotifierHosts.h"
 #include "platform/qt/statusbar/NotifierService.h"
+#include "platform/x11/PanelColor.h"
 #include "platform/x11/TrayIcon.h"
 
 namespace orlamo::qt {
@@ -29,6 +31,7 @@ private:
     class BusItem;
 
     void place();
+    QColor busInk() const;
     void updateBusIcon();
     void popUpMenu();
     PixelImage picture(int size, std::uint32_t ink) const;
@@ -38,10 +41,13 @@ private:
     Menu menu_;
     bool isVisible_ = false;
     QMenu popUp_;
-    NotifierHosts hosts_;
-    ColorScheme colors_;
     std::unique_ptr<BusItem> busItem_;
     std::optional<x11::TrayIcon> trayIcon_;
+    QDBusConnection bus_;
+    // These call back, the last one at once.
+    NotifierHosts hosts_;
+    ColorScheme scheme_;
+    x11::PanelColor panelColor_;
 };
 
 }  // namespace orlamo::qt
