@@ -1,10 +1,14 @@
 // The composition root: creates this desktop's adapters, each after those it uses, and hands control to the main loop.
 #include <QApplication>
 #include <QLocale>
+#include <QMessageBox>
 #include <filesystem>
 
+#include "platform/appcast/UpdaterController.h"
 #include "platform/atspi/Accessibility.h"
+#include "platform/atspi/AccessibilitySwitch.h"
 #include "platform/desktops/DesktopPreferences.h"
+#include "platform/desktops/ToolkitAccessibility.h"
 #include "platform/plist/LibplistParser.h"
 #include "platform/qt/JsonUserDefaults.h"
 #include "platform/qt/QtApplication.h"
@@ -15,12 +19,18 @@
 #include "platform/qt/StandardOutputLog.h"
 #include "platform/qt/SystemClock.h"
 #include "platform/qt/TextCache.h"
+#include "platform/qt/Theme.h"
+#include "platform/qt/controls/QtControlsWindowHost.h"
+#include "platform/qt/controls/QtInterfaceFiles.h"
+#include "platform/qt/statusbar/QtStatusBar.h"
 #include "platform/x11/EventMonitors.h"
 #include "platform/x11/EventPoster.h"
 #include "platform/x11/Keyboard.h"
 #include "platform/x11/WindowEffects.h"
 #include "platform/x11/WindowManager.h"
 #include "platform/x11/Workspace.h"
+#include "platform/xdg/ActivationService.h"
+#include "platform/xdg/AddressOpener.h"
 #include "platform/xdg/Autostart.h"
 #include "shell/AppDelegate.h"
 
@@ -49,6 +59,35 @@ bool bringForward(int processIdentifier) {
     return Workspace::shared().activateWithOptions(application, Workspace::activateIgnoringOtherApps);
 }
 
+/// Web pages go to the user's browser. The settings of this desktop that such an address can name is one switch.
+class Addresses {
+public:
+    bool open(std::string_view address) {
+        constexpr std::string_view accessibility =
+            "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
+        if (address != accessibility) return opener_.open(address);
+        desktops::switchOnToolkitAccessibility();  // where the desktop has it, for the sessions to come
+        return accessibilitySwitch_.switchOn();
+    }
+
+private:
+    xdg::AddressOpener opener_;
+    atspi::AccessibilitySwitch accessibilitySwitch_;
+};
+
+/// Whether this launch is to go on as the program. A launch while one runs in this session is that one's business.
+bool goesOn(xdg::LaunchOutcome outcome) {
+    if (outcome == xdg::LaunchOutcome::handedOver) return false;
+    if (outcome != xdg::LaunchOutcome::noAnswer) return true;
+    logLine("launch: the running program does not answer");
+    QMessageBox box(QMessageBox::Warning, QString::fromStdString(NSLocalizedString("instance.noAnswer.title")),
+                    QString::fromStdString(NSLocalizedString("instance.noAnswer.title")));
+    box.setInformativeText(QString::fromStdString(NSLocalizedString("instance.noAnswer.message")));
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+    return false;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -63,6 +102,10 @@ int main(int argc, char** argv) {
     const Installed<PropertyListParser, plist::LibplistParser> propertyLists;
     const auto resources = qt::resourcesFolder(QApplication::applicationFilePath().toStdString());
     const Installed<Bundle, qt::QtBundle> bundle(resources, QLocale::system());
+    qt::applyTheme(application);
+    xdg::ActivationService activation(bundle.adapter.bundleIdentifier());
+    const xdg::LaunchOutcome outcome = activation.launch();
+    if (!goesOn(outcome)) return outcome == xdg::LaunchOutcome::handedOver ? 0 : 1;
     const Installed<UserDefaults, qt::JsonUserDefaults> defaults(qt::settingsPath());
 
     const Installed<LoginItems, xdg::Autostart> loginItems(
@@ -85,14 +128,22 @@ int main(int argc, char** argv) {
     const Installed<EventMonitors, x11::EventMonitors> monitors(*connection, keys, windows);
     const Installed<EventPoster, x11::EventPoster> poster(*connection, keys);
     const Installed<WindowEffects, x11::WindowEffects> effects(*connection, windows, focus);
-    const Installed<Workspace, x11::Workspace> workspace(*connection, windows, focus, bundle.adapter.bundleIdentifier(),
-                                                         [](std::string_view) { return false; });
+    Addresses addresses;
+    const Installed<Workspace, x11::Workspace> workspace(
+        *connection, windows, focus, bundle.adapter.bundleIdentifier(),
+        [&addresses](std::string_view address) { return addresses.open(address); });
 
     qt::TextCache texts;
     qt::QtApplication program;
     const Service<Application>::Installation programInstallation(program);
     const Installed<TextMetrics, qt::QtTextMetrics> metrics(texts);
-    const Installed<WindowSystem, qt::QtWindowSystem> windowSystem(texts, program);
+    const Installed<WindowSystem, qt::QtWindowSystem> windowSystem(
+        texts, program, [](Window& window, qt::QtApplication& owner) -> std::unique_ptr<WindowHost> {
+            return std::make_unique<qt::QtControlsWindowHost>(window, owner);
+        });
+    const Installed<InterfaceFiles, qt::QtInterfaceFiles> interfaceFiles;
+    const Installed<StatusBar, qt::QtStatusBar> statusBar(*connection);
+    const Installed<Updates, appcast::Updater> updates(&program);
 
     const Installed<Accessibility, atspi::Accessibility> accessibility(
         atspi::Options{.baseKeyOfShifted = [&keys](char32_t character) { return keys.baseKeyOfShifted(character); },
@@ -101,6 +152,10 @@ int main(int argc, char** argv) {
                        .bringForward = bringForward});
 
     AppDelegate delegate;
+    program.delegate = &delegate;
+    delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
+    activation.setHandler(
+        [&delegate] { delegate.applicationShouldHandleReopen(delegate.preferences.window()->isVisible()); });
     return QApplication::exec();
 }

@@ -68,14 +68,16 @@ private:
 
     class Registration : public Handle {
     public:
-        Registration(FakeRunLoop& loop, std::uint64_t id) : loop_(loop), id_(id) {}
+        Registration(FakeRunLoop& loop, std::uint64_t id) : loop_(loop), isAlive_(loop.isAlive_), id_(id) {}
         ~Registration() override {
+            if (isAlive_.expired()) return;  // what lives for the process outlives a test's loop
             std::erase_if(loop_.tasks_, [this](const Scheduled& task) { return task.id == id_; });
             loop_.watches_.erase(id_);
         }
 
     private:
         FakeRunLoop& loop_;
+        std::weak_ptr<bool> isAlive_;
         std::uint64_t id_;
     };
 
@@ -87,6 +89,7 @@ private:
     std::vector<Scheduled> tasks_;
     std::map<std::uint64_t, std::pair<int, Task>> watches_;
     std::uint64_t lastId_ = 0;
+    std::shared_ptr<bool> isAlive_ = std::make_shared<bool>(true);
     Installation installation_{*this};
 };
 

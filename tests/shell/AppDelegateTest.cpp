@@ -6,6 +6,9 @@
 #include "shell/settings/Settings.h"
 #include "shell/utility/Utility.h"
 #include "tests/doubles/FakeDesktop.h"
+#include "tests/doubles/FakeInterfaceFiles.h"
+#include "tests/doubles/FakeStatusBar.h"
+#include "tests/doubles/FakeUpdates.h"
 
 namespace orlamo {
 namespace {
@@ -14,7 +17,19 @@ using Values = std::map<std::string, UserDefaults::Value, std::less<>>;
 
 class Launch : public testing::Test {
 protected:
+    Launch() { desktop.application.delegate = &delegate; }
+
+    void launch() {
+        delegate.applicationWillFinishLaunching();
+        delegate.applicationDidFinishLaunching();
+        desktop.log.lines.clear();
+    }
+    void choose(std::size_t entry) const { statusBar.item->menu.items.at(entry).action(); }
+
     FakeDesktop desktop;
+    FakeInterfaceFiles files;
+    FakeStatusBar statusBar;
+    FakeUpdates updates;
     AppDelegate delegate;
 };
 
@@ -23,6 +38,101 @@ const Values initialBooleans{{"isLaunchAtLoginEnabled", false},
                              {"isBlurStyle", true},
                              {"isContainsAppleMenu", true},
                              {"isEnableAutomaticCheckUpdate", true}};
+
+TEST_F(Launch, TheStepsFollowEachOtherInOrder) {
+    updates.onCheck = [] { logLine("a check"); };
+    files.beforeViewDidLoad = [](FakeInterfaceView& view) {
+        if (view.name == "InitialViewController") logLine("the preferences");
+    };
+    EXPECT_EQ(updates.startedWith, Updates::StartingUpdater::yes) << "before the launch";
+    EXPECT_NE(updates.delegate, nullptr);
+
+    delegate.applicationWillFinishLaunching();
+    EXPECT_EQ(desktop.defaults.values, (Values{{"NSStatusItem Preferred Position Item-0", std::int64_t{50}}}));
+    delegate.applicationDidFinishLaunching();
+    using testing::StartsWith;
+    EXPECT_THAT(desktop.log.lines,
+                testing::ElementsAre("a check", StartsWith("应用程序更新检查已完成，时间："), "the preferences",
+                                     "这是第一次启动应用程序，打印默认值", "已开启辅助功能", "launch: trigger monitors",
+                                     "launch: click monitor", "launch: status item", "launch: settings observers"));
+    EXPECT_THAT(desktop.application.activations, testing::ElementsAre(Application::IgnoringOtherApps::yes));
+    EXPECT_TRUE(desktop.application.policies.empty());
+}
+
+TEST_F(Launch, TheNextLaunchLooksForNoUpdatesAndShowsTheIconAlsoWhenItIsHidden) {
+    launch();
+    updates.checks.clear();
+    desktop.defaults.values["isHiddenStatusBar"] = true;
+    launch();
+    EXPECT_TRUE(updates.checks.empty());
+    EXPECT_TRUE(statusBar.item->isVisible);
+}
+
+TEST_F(Launch, TheStatusMenuHasFourEntriesThatDoTheirWork) {
+    launch();
+    const FakeStatusItemRecord& item = *statusBar.item;
+    EXPECT_EQ(item.length, -2);
+    EXPECT_TRUE(item.image.name == "menuBarIcon" && item.image.isTemplate);
+    const std::vector<std::array<std::string, 2>> expected{{"statusBar.title.setting", "gear"},
+                                                           {"statusBar.title.update", ""},
+                                                           {"", ""},
+                                                           {"statusBar.title.quit", "escape"}};
+    ASSERT_EQ(item.menu.items.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(item.menu.items[i].title, expected[i][0]);
+        EXPECT_EQ(item.menu.items[i].image.name, expected[i][1]);
+        EXPECT_EQ(item.menu.items[i].image.isTemplate, !expected[i][1].empty());
+        EXPECT_EQ(item.menu.items[i].kind == MenuItem::Kind::separator, i == 2);
+    }
+    const std::size_t activations = desktop.application.activations.size();
+    delegate.preferences.close();
+    choose(0);
+    EXPECT_EQ(desktop.windows.visibleWindows(), 1);
+    EXPECT_EQ(desktop.application.activations.size(), activations + 1);
+    updates.checks.clear();
+    choose(1);
+    EXPECT_THAT(updates.checks, testing::ElementsAre(SPUStandardUpdaterController::Origin::user));
+    choose(3);
+    EXPECT_EQ(desktop.application.terminations, 1);
+}
+
+TEST_F(Launch, LaunchedAgainTheRunningProgramShowsItsPreferences) {
+    launch();
+    delegate.preferences.close();
+    EXPECT_TRUE(delegate.applicationShouldHandleReopen(false));
+    EXPECT_EQ(desktop.windows.visibleWindows(), 1);
+    EXPECT_EQ(desktop.windows.records.size(), 1U) << "the same window";
+}
+
+TEST_F(Launch, TheIconFollowsItsSetting) {
+    launch();
+    desktop.defaults.setObject("isHiddenStatusBar", true);
+    EXPECT_FALSE(statusBar.item->isVisible);
+    EXPECT_EQ(desktop.log.lines, (std::vector<std::string>{"更新状态栏图标。。。。", "---隐藏"}));
+    desktop.log.lines.clear();
+    desktop.defaults.values["NSStatusItem Preferred Position Item-0"] = std::int64_t{70};
+    const int synchronizations = desktop.defaults.synchronizations;
+    desktop.defaults.setObject("isHiddenStatusBar", false);
+    EXPECT_TRUE(statusBar.item->isVisible);
+    EXPECT_EQ(desktop.log.lines, (std::vector<std::string>{"更新状态栏图标。。。。", "----显示"}));
+    EXPECT_EQ(desktop.defaults.integerForKey("NSStatusItemPreferredPositionItem-0"), 70) << "written back, so copied";
+    EXPECT_EQ(desktop.defaults.synchronizations, synchronizations + 2);
+
+    delegate.statusBarItem.reset();
+    desktop.defaults.setObject("isHiddenStatusBar", true);
+}
+
+TEST_F(Launch, APositiveWholePositionIsCopied) {
+    launch();
+    const char* const copy = "NSStatusItemPreferredPositionItem-0";
+    EXPECT_FALSE(desktop.defaults.values.contains(copy)) << "no initial call";
+    const std::vector<std::pair<UserDefaults::Value, std::int64_t>> cases{
+        {std::int64_t{1}, 1}, {std::int64_t{0}, 1}, {std::int64_t{-3}, 1}, {std::string("7"), 1}, {std::int64_t{9}, 9}};
+    for (const auto& [value, copied] : cases) {
+        desktop.defaults.setObject("NSStatusItem Preferred Position Item-0", value);
+        EXPECT_EQ(desktop.defaults.integerForKey(copy), copied);
+    }
+}
 
 TEST_F(Launch, AFreshAccountGetsTheDefaultsOnce) {
     delegate.checkFirstLaunch();
