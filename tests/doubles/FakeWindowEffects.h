@@ -24,6 +24,7 @@ public:
     }
     void shapeRounded(NativeWindow, int, int, int radius) override { shapes.push_back(radius); }
     void giveFocus(NativeWindow window) override { focused.push_back(window); }
+    void introduce(NativeWindow, std::string_view, Listing listing) override { listings.push_back(listing); }
 
     bool composited = false;
     bool blurs = false;
@@ -32,6 +33,7 @@ public:
     std::vector<PixelRect> copies;
     std::vector<int> shapes;
     std::vector<NativeWindow> focused;
+    std::vector<Listing> listings;
 
 private:
     Installation installation_{*this};
