@@ -109,6 +109,7 @@ void UpdateWindow::build() {
     column->addSpacing(spacing);
     column->addLayout(buttons);
     setMinimumWidth(windowWidth);
+    resize(windowWidth, 0);
 }
 
 QLayout* UpdateWindow::buildWords() {
@@ -172,7 +173,13 @@ void UpdateWindow::show(const std::string& title, const std::string& message) {
     QPushButton& first = page_.isEmpty() ? dismiss_ : openPage_;
     first.setDefault(true);
     first.setFocus();
-    adjustSize();
+    fit();
+}
+
+void UpdateWindow::fit() {
+    for (QWidget* const label : {&title_, &message_}) label->ensurePolished();  // the style sheet sizes their texts
+    layout()->activate();
+    resize(width(), layout()->totalHeightForWidth(width()));
 }
 
 void UpdateWindow::bringForward() {
@@ -197,7 +204,7 @@ void UpdateWindow::openPage() {
     if (Workspace::shared().openURL(address)) return accept();
     logLine("updates: nothing opens " + address);
     setText(message_, localized("update.newVersion.pageFailed", address));
-    adjustSize();
+    fit();
 }
 
 }  // namespace orlamo::appcast

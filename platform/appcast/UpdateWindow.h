@@ -33,6 +33,8 @@ private:
     QLayout* buildWords();
     void show(const std::string& title, const std::string& message);
     void showNewVersion(const Item& item, const std::string& currentVersion);
+    /// As high as its contents need.
+    void fit();
     void openPage();
 
     qt::QtApplication* const program_;
