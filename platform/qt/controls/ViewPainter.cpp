@@ -62,7 +62,7 @@ void ViewPainter::paint(QPainter& painter, View& view) {
     if (list_.items().empty()) return;
 
     // In device pixels, where texts and edges can be placed exactly.
-    const double scale = painter.device()->devicePixelRatio();
+    const double scale = painter.deviceTransform().m11();
     QImage picture(static_cast<int>(std::ceil(size.width * scale)), static_cast<int>(std::ceil(size.height * scale)),
                    QImage::Format_ARGB32_Premultiplied);
     if (picture.isNull()) return;  // an empty view

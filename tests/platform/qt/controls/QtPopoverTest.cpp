@@ -42,12 +42,12 @@ protected:
     Help() {
         files.size = content;
         window.resize(400, 300);
+        (new QPushButton(&window))->setFocus();
         button = new QPushButton(&window);
         button->setGeometry(200, 200, 30, 30);
         control = std::make_unique<qt::ControlAdapter<Control>>(*button);
         window.show();
         window.activateWindow();
-        button->setFocus();
         turnEventLoop();
         popover = std::make_unique<qt::QtPopover>();
         popover->behavior = Popover::Behavior::transient;
