@@ -8,8 +8,8 @@ from gi.repository import Gio, GLib  # noqa: E402
 REGISTRY = "org.a11y.atspi.Registry"
 ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
-MENU_BAR, TEXT = 34, 61  # AtspiRole
-ACTIVE = 1  # AtspiStateType
+MENU_BAR, TEXT, CHECK_BOX, PUSH_BUTTON, LIST_ITEM = 34, 61, 7, 43, 32  # AtspiRole
+ACTIVE, CHECKED, FOCUSABLE, FOCUSED, SHOWING = 1, 4, 11, 12, 25  # AtspiStateType
 
 
 def connect(address):
@@ -29,9 +29,15 @@ def call(connection, name, path, interface, method, arguments=None, milliseconds
     return answer.unpack()
 
 
-def switch_on(session_bus):
+def switch_on(session_bus, on=True):
     call(session_bus, "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
-         GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True))))
+         GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", on))))
+
+
+def is_on(session_bus):
+    answer = call(session_bus, "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Get",
+                  GLib.Variant("(ss)", ("org.a11y.Status", "IsEnabled")))
+    return bool(answer and answer[0])
 
 
 def bus_address(session_bus):
@@ -86,6 +92,37 @@ class AccessibleApplication:
                     return element
             level = [child for element in level for child in self._children(element)]
         return None
+
+    def name_of(self, element):
+        found = call(self.bus, *element, "org.freedesktop.DBus.Properties", "Get",
+                     GLib.Variant("(ss)", (ACCESSIBLE, "Name")))
+        return found[0] if found else ""
+
+    def has_state(self, element, state):
+        found = call(self.bus, *element, ACCESSIBLE, "GetState")
+        return bool(found and found[0][state // 32] >> state % 32 & 1)
+
+    def elements(self, depth=14):
+        """Everything in its active windows, as (role, name, element), outer elements first."""
+        root = self._root()
+        level = [window for window in self._children(root) if self._is_active(window)] if root else []
+        for _ in range(depth):
+            yield from ((self._role(element), self.name_of(element), element) for element in level)
+            level = [child for element in level for child in self._children(element)]
+
+    def element(self, name, role=None):
+        """What is shown under that name; None when nothing is."""
+        return next((element for kind, named, element in self.elements()
+                     if named == name and role in (None, kind) and self.has_state(element, SHOWING)), None)
+
+    def press(self, element):
+        """As a screen reader presses it."""
+        call(self.bus, *element, "org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
+
+    def focused(self):
+        """The role and name of what has the keyboard; None when nothing has."""
+        return next(((kind, name) for kind, name, element in self.elements()
+                     if self.has_state(element, FOCUSED) and self.has_state(element, FOCUSABLE)), None)
 
     def has_menu_bar(self):
         """Whether its active window holds a menu bar with at least three menus."""

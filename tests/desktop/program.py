@@ -9,6 +9,7 @@ from session import PATIENCE
 
 SHOWS = "------------ 双击显示窗口 --------------"
 BUILDS = "获取到了快捷键，就设置UI"
+LAUNCHED = "launch: settings observers"
 APPLICATION_LIST = "获取应用快捷键=====  "
 SYSTEM_LIST = "获取系统快捷键=====  "
 CELL = re.compile(r"文字: (.*)---- 尺寸: \((-?[\d.]+), (-?[\d.]+), (-?[\d.]+), (-?[\d.]+)\)")
@@ -35,27 +36,30 @@ class Log:
 
 
 class Program:
-    """Orlamo, started in a session. Settings are written into its file before it starts."""
+    """Orlamo, started in a session. Settings are written into its file before it starts. The preferences, which every
+    launch shows, are closed unless `keeps_preferences`: a user who goes on to work does the same."""
 
-    def __init__(self, session, path, settings=None, environment=None):
+    def __init__(self, session, path, settings=None, environment=None, keeps_preferences=False):
         self.session = session
         self.path = path
         self.settings_file = session.config / "orlamo" / "settings.json"
         if settings is not None:
             self.write_settings(settings)
-        self.start(environment)
+        self.start(environment, keeps_preferences)
 
-    def start(self, environment=None):
+    def start(self, environment=None, keeps_preferences=False):
         with tempfile.NamedTemporaryFile(dir=self.session.folder, suffix=".log", delete=False) as output:
             self.log = Log(self.session.folder / output.name)
             self.process = self.session.start([self.path], output, environment)
         self.pid = self.process.pid
         wait_until(self.is_ready, PATIENCE, "start of the program")
+        if not keeps_preferences:
+            self.close_preferences()
 
     def is_ready(self):
-        """It has asked for its default trigger, which it does after its monitors are in place."""
+        """It has done the last step of its launch."""
         self.assert_alive()
-        return "doubleModifierKey" in self.settings()
+        return self.log.find(LAUNCHED)
 
     def assert_alive(self):
         if self.process.poll() is not None:
@@ -78,11 +82,32 @@ class Program:
         new.chmod(0o600)
         new.replace(self.settings_file)
 
+    # The windows around the panel.
+    def preferences(self):
+        """The preferences' window; None while it is closed."""
+        return self.window("InitialViewController")
+
+    def permission_window(self):
+        return self.window("PrivilegeController")
+
+    def window(self, content):
+        """The window that the window manager has of the program with that content in it, by its role."""
+        self.assert_alive()
+        return next((window for window in self.session.screen.managed_windows_of(self.pid)
+                     if self.session.screen.role_of(window) == content), None)
+
+    def wait_for_preferences(self, seconds=PATIENCE):
+        return wait_until(self.preferences, seconds, "preferences window")
+
+    def close_preferences(self):
+        self.session.screen.close_window(self.wait_for_preferences())
+        wait_until(lambda: self.preferences() is None, PATIENCE, "end of the preferences window")
+
     # The panel.
     def panel(self):
         """The panel's window; None while there is none."""
         self.assert_alive()
-        windows = self.session.screen.windows_of(self.pid)
+        windows = self.session.screen.unmanaged_windows_of(self.pid)
         return windows[-1] if windows else None
 
     def panel_area(self):

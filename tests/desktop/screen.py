@@ -4,6 +4,7 @@ import time
 from PIL import Image
 from Xlib import X, XK, Xatom, display, error
 from Xlib.ext import xtest
+from Xlib.protocol import event as events
 
 STEP = 0.01  # seconds between two looks at a condition
 
@@ -135,6 +136,46 @@ class Screen:
     def windows_of(self, pid):
         """The windows of that process that can be seen, the topmost last."""
         return [window for window in self._seen(self.root) if self.pid_of(window) == pid]
+
+    def managed_windows_of(self, pid):
+        """Those of them that the window manager knows."""
+        found = self._property(self.root, "_NET_CLIENT_LIST", Xatom.WINDOW)
+        managed = set(found) if found is not None else set()
+        return [window for window in self.windows_of(pid) if window.id in managed]
+
+    def unmanaged_windows_of(self, pid):
+        """Those of them that place themselves."""
+        return [window for window in self.windows_of(pid) if self._places_itself(window)]
+
+    @staticmethod
+    def _places_itself(window):
+        try:
+            return window.get_attributes().override_redirect
+        except (error.BadWindow, error.BadDrawable):
+            return False
+
+    def role_of(self, window):
+        found = self._property(window, "WM_WINDOW_ROLE", Xatom.STRING)
+        return found.decode() if isinstance(found, bytes) else found
+
+    def states_of(self, window):
+        """The names of its _NET_WM_STATE."""
+        found = self._property(window, "_NET_WM_STATE", Xatom.ATOM)
+        return {self.display.get_atom_name(atom) for atom in found} if found is not None else set()
+
+    def close_window(self, window):
+        """As its close button does."""
+        self._ask_window_manager(window, "_NET_CLOSE_WINDOW", (X.CurrentTime, 2, 0, 0, 0))
+
+    def activate_window(self, window):
+        """As a taskbar does."""
+        self._ask_window_manager(window, "_NET_ACTIVE_WINDOW", (2, X.CurrentTime, 0, 0, 0))
+
+    def _ask_window_manager(self, window, message, words):
+        event = events.ClientMessage(window=window, client_type=self.display.intern_atom(message),
+                                             data=(32, words))
+        self.root.send_event(event, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        self.display.sync()
 
     def _seen(self, parent):
         try:

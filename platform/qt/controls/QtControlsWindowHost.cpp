@@ -69,6 +69,8 @@ void QtControlsWindowHost::create() {
     shell_.reset(new ControlsWindow(*this, content, flags(window_),
                                     translucent ? ControlsWindow::Backdrop::clear : ControlsWindow::Backdrop::opaque));
     shell_->setWindowTitle(QString::fromStdString(window_.title));
+    // Tells window managers' rules, and whoever looks for it, one window of the program from another.
+    shell_->setWindowRole(QString::fromStdString(window_.contentViewController()->interfaceName()));
     place();
     shell_->winId();  // makes the native window, for what must be known of it before it appears
     PanelSurface::synchronize();
