@@ -8,8 +8,8 @@ from gi.repository import Gio, GLib  # noqa: E402
 REGISTRY = "org.a11y.atspi.Registry"
 ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
-MENU_BAR, TEXT, CHECK_BOX, PUSH_BUTTON, LIST_ITEM = 34, 61, 7, 43, 32  # AtspiRole
-ACTIVE, CHECKED, FOCUSABLE, FOCUSED, SHOWING = 1, 4, 11, 12, 25  # AtspiStateType
+MENU_BAR, TEXT, CHECK_BOX = 34, 61, 7  # AtspiRole
+ACTIVE, CHECKED, FOCUSED, SHOWING = 1, 4, 12, 25  # AtspiStateType
 
 
 def connect(address):
@@ -110,19 +110,20 @@ class AccessibleApplication:
             yield from ((self._role(element), self.name_of(element), element) for element in level)
             level = [child for element in level for child in self._children(element)]
 
-    def element(self, name, role=None):
+    def element(self, name):
         """What is shown under that name; None when nothing is."""
-        return next((element for kind, named, element in self.elements()
-                     if named == name and role in (None, kind) and self.has_state(element, SHOWING)), None)
+        return next((element for _, named, element in self.elements()
+                     if named == name and self.has_state(element, SHOWING)), None)
 
     def press(self, element):
         """As a screen reader presses it."""
         call(self.bus, *element, "org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
 
     def focused(self):
-        """The role and name of what has the keyboard; None when nothing has."""
-        return next(((kind, name) for kind, name, element in self.elements()
-                     if self.has_state(element, FOCUSED) and self.has_state(element, FOCUSABLE)), None)
+        """The name of what has the keyboard; None when nothing has. A list's item keeps its own mark: the innermost
+        element counts."""
+        found = [name for _, name, element in self.elements() if self.has_state(element, FOCUSED)]
+        return found[-1] if found else None
 
     def has_menu_bar(self):
         """Whether its active window holds a menu bar with at least three menus."""

@@ -1,0 +1,101 @@
+"""The preferences, used as a person without a mouse or with a screen reader uses them."""
+from accessible import CHECK_BOX, CHECKED, AccessibleApplication
+from case import DesktopTest
+from screen import wait_until
+from texts import texts
+
+TEXTS = texts()
+# The check boxes by the keys of their texts, and the settings they write.
+BOXES = (("settings.login", "isLaunchAtLoginEnabled"), ("settings.hide_icon", "isHiddenStatusBar"),
+         ("settings.taskbar", "dockIcon"), ("settings.blur", "isBlurStyle"),
+         ("settings.session_menu", "isContainsAppleMenu"), ("settings.check_updates", "isEnableAutomaticCheckUpdate"))
+
+
+class Preferences(DesktopTest):
+    settings = {"isFirstLaunch": True, "isBlurStyle": True, "LastUpdateCheckDate": "2026-01-01T00:00:00+0000"}
+
+    def setUp(self):
+        super().setUp()
+        program = self.start_program(keeps_preferences=True)
+        self.window = program.wait_for_preferences()
+        wait_until(lambda: self.screen.active_pid() == program.pid, 5, "focus for the preferences")
+        self.reader = AccessibleApplication(self.session.accessibility_bus, program.pid)
+
+    def find(self, key):
+        return wait_until(lambda: self.reader.element(TEXTS[key]), 5, f"{TEXTS[key]!r} on the screen")
+
+    def box(self, key):
+        """A check box that may have to be scrolled to."""
+        return wait_until(lambda: next((element for role, name, element in self.reader.elements()
+                                        if role == CHECK_BOX and name == TEXTS[key]), None), 5, f"box {key}")
+
+    def wait_for_setting(self, key, value):
+        wait_until(lambda: self.program.settings().get(key) == value, 5, f"{key} = {value}")
+
+    def tab_to(self, name):
+        """Presses Tab until that has the keyboard."""
+        for _ in range(30):
+            before = self.reader.focused()
+            if before == name:
+                return
+            self.screen.tap("Tab")
+            wait_until(lambda: self.reader.focused() != before, 5, "next control")
+        self.fail(f"no way to {name!r} with the Tab key")
+
+    def test_each_check_box_shows_its_setting_and_writes_it(self):
+        for key, setting in BOXES:
+            with self.subTest(setting):
+                box = self.box(key)
+                before = self.reader.has_state(box, CHECKED)
+                self.assertEqual(self.program.settings().get(setting, False), before)
+                self.reader.press(box)
+                self.wait_for_setting(setting, not before)
+                self.assertEqual(not before, self.reader.has_state(box, CHECKED))
+        entry = self.session.config / "autostart" / "app.orlamo.OrlamoHelper.desktop"
+        self.assertIn("\nExec=", entry.read_text())
+        self.reader.press(self.box("settings.login"))
+        self.wait_for_setting("isLaunchAtLoginEnabled", False)
+        self.assertFalse(entry.exists())
+
+    def test_the_windows_are_listed_in_the_taskbar_only_while_the_setting_is_on(self):
+        def listed():
+            return "_NET_WM_STATE_SKIP_TASKBAR" not in self.screen.states_of(self.program.preferences())
+
+        self.assertFalse(listed())
+        self.reader.press(self.box("settings.taskbar"))
+        wait_until(listed, 5, "window in the taskbar")
+        self.reader.press(self.box("settings.taskbar"))
+        wait_until(lambda: not listed(), 5, "window out of the taskbar")
+        self.assertEqual(self.program.pid, self.screen.active_pid())
+
+    def test_the_tabs_and_a_new_trigger_are_chosen_with_the_keyboard_alone(self):
+        self.tab_to(TEXTS["tab.types.settings"])
+        for key in ("tutorial.lead", "freeapps.lead", "about.lead"):
+            self.screen.tap("Down")
+            self.find(key)
+        for _ in range(3):
+            self.screen.tap("Up")
+        self.find("settings.general")
+        self.tab_to("Command")
+        self.screen.tap("Down")
+        self.screen.tap("Down")
+        self.wait_for_setting("doubleModifierKey", "Shift")
+        self.screen.close_window(self.program.preferences())
+        self.session.open_editor("mousepad")
+        self.program.open_panel(self.screen.SHIFT)
+
+    def test_the_slider_shows_and_stores_the_corner_radius(self):
+        self.tab_to(TEXTS["settings.radius"])
+        self.screen.tap("Right")
+        wait_until(lambda: "CornerRadius" in self.program.settings(), 5, "corner radius")
+        radius = self.program.settings()["CornerRadius"]
+        self.assertIsNotNone(self.program.log.find(f"滑动的圆角半径： {radius}"))
+        wait_until(lambda: self.reader.element(str(radius)), 5, "number beside the slider")
+
+    def test_the_help_opens_beside_its_button_and_closes_with_escape(self):
+        self.tab_to(TEXTS["settings.help"])
+        self.screen.tap("space")
+        wait_until(lambda: self.screen.unmanaged_windows_of(self.program.pid), 5, "help")
+        self.screen.tap(self.screen.ESCAPE)
+        wait_until(lambda: not self.screen.unmanaged_windows_of(self.program.pid), 5, "end of the help")
+        self.assertIsNotNone(self.program.preferences())
