@@ -1,6 +1,6 @@
 # The commands of this project. `make help` lists them.
 .DEFAULT_GOAL := help
-.PHONY: help run test bench format check tidy hooks clean
+.PHONY: help run test bench pictures format check tidy hooks clean
 
 help: ## this list
 	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "make %-8s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -24,6 +24,12 @@ bench: ## run the measurements of docs/performance.md
 	@cmake --preset bench
 	@cmake --build --preset bench
 	@bench/run
+
+pictures: ## take the pictures of docs/images anew
+	@scripts/setup build run demo
+	@cmake --preset release
+	@cmake --build --preset release --target orlamo orlamo_resources
+	@scripts/pictures
 
 format: ## format all C++ files
 	@scripts/setup test

@@ -80,8 +80,11 @@ bool goesOn(xdg::LaunchOutcome outcome) {
     if (outcome == xdg::LaunchOutcome::handedOver) return false;
     if (outcome != xdg::LaunchOutcome::noAnswer) return true;
     logLine("launch: the running program does not answer");
-    QMessageBox box(QMessageBox::Warning, QString::fromStdString(NSLocalizedString("instance.noAnswer.title")),
-                    QString::fromStdString(NSLocalizedString("instance.noAnswer.title")));
+    QMessageBox box;
+    const PropertyList name = Bundle::shared().infoDictionaryValue("CFBundleName");
+    if (const auto* const text = name.get<std::string>()) box.setWindowTitle(QString::fromStdString(*text));
+    box.setIconPixmap(QApplication::windowIcon().pixmap(64));
+    box.setText(QString::fromStdString(NSLocalizedString("instance.noAnswer.title")));
     box.setInformativeText(QString::fromStdString(NSLocalizedString("instance.noAnswer.message")));
     box.setTextFormat(Qt::PlainText);
     box.exec();
