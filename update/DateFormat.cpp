@@ -56,7 +56,7 @@ std::optional<double> dateFromString(std::string_view text) {
         return std::nullopt;
     }
     const int offset = (offsetHours * 60 + offsetMinutes) * (text[19] == '-' ? -60 : 60);
-    const double days = std::chrono::sys_days(day).time_since_epoch().count();
+    const auto days = static_cast<double>(std::chrono::sys_days(day).time_since_epoch().count());
     return days * 86400.0 + hour * 3600 + minute * 60 + second - offset;
 }
 
