@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/SystemShortcuts.h"
+#include "platform/Accessibility.h"
 #include "platform/Log.h"
 #include "platform/UserDefaults.h"
 #include "shell/settings/Settings.h"
@@ -40,8 +41,10 @@ std::unique_ptr<CanvasView> CanvasView::initWithFrame(Rect frame) {
     return view;
 }
 
-// With fewer entries than the session's menu has, what stands before the application's name goes.
+// With fewer entries than the session's menu has, what stands before the application's name goes. Where there is no
+// such menu, the first entries are the application's own and stay.
 void CanvasView::trimAppleMenu() {
+    if (!Accessibility::shared().hasSessionMenu()) return;
     if (UserDefaults::standardUserDefaults().boolForKey(SettingsKeys::isContainsAppleMenu)) return;
     const std::size_t removable = std::min(appleMenuEntries, static_cast<std::size_t>(entryTotal()));
     const auto end = appMenuItems.begin() + static_cast<std::ptrdiff_t>(removable);

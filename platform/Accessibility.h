@@ -72,6 +72,9 @@ public:
                                                    std::vector<AXUIElementRef>& values) = 0;
     /// "AXPress".
     virtual AXError AXUIElementPerformAction(const AXUIElementRef& element, std::string_view action) = 0;
+    /// Whether menu bars begin with that first menu of the session: one heading and four items. Else they begin with
+    /// the application's own.
+    virtual bool hasSessionMenu() const = 0;
     /// Whether this process may read other applications, without asking the user.
     virtual bool AXIsProcessTrusted() = 0;
     /// The same answer; this desktop has no question of its own to prompt the user with.

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/Accessibility.h"
 #include "platform/Application.h"
 #include "platform/Log.h"
 #include "preferences/InterfaceClasses.h"
@@ -70,6 +71,8 @@ void SettingsController::viewDidLoad() {
     show(launchOnLoginCheckBox, defaults.boolForKey(SettingsKeys::isLaunchAtLoginEnabled));
     show(isBlurStyleCheckBox, defaults.boolForKey(SettingsKeys::isBlurStyle));
     show(isContainsAppleMenuBox, defaults.boolForKey(SettingsKeys::isContainsAppleMenu));
+    const auto sessionMenu = isContainsAppleMenuBox.lock();
+    if (sessionMenu != nullptr && !Accessibility::shared().hasSessionMenu()) sessionMenu->setEnabled(false);
     show(isAutomaticCheckUpdateBox, defaults.boolForKey(SettingsKeys::isEnableAutomaticCheckUpdate));
     if (const auto popUp = modifierKeyPopUpBtn.lock()) {
         const auto stored = defaults.stringForKey(SettingsKeys::doubleModifierKey);

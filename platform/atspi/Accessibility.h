@@ -26,6 +26,7 @@ public:
                                            std::int64_t first, std::int64_t count,
                                            std::vector<AXUIElementRef>& values) override;
     AXError AXUIElementPerformAction(const AXUIElementRef& element, std::string_view action) override;
+    bool hasSessionMenu() const override { return static_cast<bool>(options_.sessionMenu); }
     bool AXIsProcessTrusted() override;
 
     /// How the last reading of a menu bar went.

@@ -155,7 +155,9 @@ public:
     }
 
     bool AXIsProcessTrusted() override { return trusted; }
+    bool hasSessionMenu() const override { return sessionMenu; }
 
+    bool sessionMenu = true;
     bool trusted = true;                         // while false every call fails
     std::map<int, FakeElementPtr> applications;  // by process id
     std::vector<FakeElementPtr> presses;         // also those that failed with the node's own result

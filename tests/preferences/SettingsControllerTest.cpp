@@ -42,6 +42,15 @@ TEST_F(Settings, LoadingShowsEachStoredSettingInItsOwnBoxAndLeavesTheDockAlone) 
     EXPECT_EQ(desktop.defaults.writes, 0);
 }
 
+TEST_F(Settings, TheSessionMenusBoxIsEnabledWhereThereIsOne) {
+    for (const bool present : {true, false}) {
+        desktop.accessibility.sessionMenu = present;
+        SettingsController loaded;
+        loaded.view();
+        EXPECT_EQ(files.control<FakeCheckBox>("isContainsAppleMenuBox").enabled, present);
+    }
+}
+
 TEST_F(Settings, EachBoxStoresWhetherItIsOnAndHasItsSideEffectsInOrder) {
     desktop.loginItems.succeeds = false;
     page.view();

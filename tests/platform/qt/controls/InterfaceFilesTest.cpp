@@ -6,6 +6,7 @@
 #include "preferences/InitialViewController.h"
 #include "preferences/PopoverViewController.h"
 #include "preferences/Preferences.h"
+#include "tests/doubles/FakeAccessibility.h"
 #include "tests/doubles/FakeApplication.h"
 #include "tests/doubles/FakeBundle.h"
 #include "tests/doubles/FakeUserDefaults.h"
@@ -30,6 +31,7 @@ protected:
     }
 
     FakeBundle bundle;
+    FakeAccessibility accessibility;
     FakeApplication application;
     FakeUserDefaults defaults;
     FakeWindowSystem windowSystem;
