@@ -182,9 +182,19 @@ void UpdateWindow::fit() {
     resize(width(), layout()->totalHeightForWidth(width()));
 }
 
-void UpdateWindow::bringForward() {
+void UpdateWindow::place() {
     if (program_ != nullptr && !isVisible()) program_->managedWindowWillAppear(winId());
     QDialog::show();
+}
+
+void UpdateWindow::appear() {
+    setAttribute(Qt::WA_ShowWithoutActivating, true);
+    place();
+}
+
+void UpdateWindow::bringForward() {
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
+    place();
     raise();
     if (program_ != nullptr) program_->managedWindowCameToFront(winId());
     if (WindowEffects::isInstalled()) {

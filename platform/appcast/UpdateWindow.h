@@ -22,13 +22,16 @@ public:
     /// `currentVersion`, the program's own, stands in some of the texts.
     void showResult(const CheckResult& result, const std::string& currentVersion);
 
-    /// To the front of the screen, with the keyboard where the desktop lets it.
+    /// To the front of the screen, with the keyboard where the desktop lets it: for a user who asked.
     void bringForward();
+    /// On the screen without taking the keyboard from what the user is doing.
+    void appear();
 
 protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void place();
     void build();
     QLayout* buildWords();
     void show(const std::string& title, const std::string& message);

@@ -36,15 +36,16 @@ UpdaterController::~UpdaterController() {
 }
 
 void UpdaterController::checkForUpdates(Origin origin) {
-    if (check_ != nullptr) return window().bringForward();
+    if (check_ != nullptr) return origin == Origin::user ? window().bringForward() : window().appear();
 
     const std::string feed = information("SUFeedURL");
     if (feed.empty()) {
         if (origin == Origin::launch) return;
-        return showResult({.outcome = Outcome::noFeedAddress, .item = std::nullopt});
+        showResult({.outcome = Outcome::noFeedAddress, .item = std::nullopt});
+        return window().bringForward();
     }
     window().showChecking();
-    window().bringForward();
+    origin == Origin::user ? window().bringForward() : window().appear();
     const auto channels = delegate_ != nullptr ? delegate_->allowedChannelsForUpdater() : std::set<std::string>();
     check_ = std::make_unique<UpdateCheck>(options_, currentVersion(), channels);
     check_->start(QUrl(QString::fromStdString(feed), QUrl::StrictMode), [this](const CheckResult& result) {
@@ -62,8 +63,8 @@ UpdateWindow& UpdaterController::window() {
 }
 
 void UpdaterController::showResult(const CheckResult& result) {
+    // In place: by now the user may be typing elsewhere.
     window().showResult(result, currentVersion());
-    window().bringForward();
 }
 
 void UpdaterController::windowClosed() {

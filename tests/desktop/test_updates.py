@@ -1,6 +1,7 @@
 """Looking for updates with the whole program: the launch, and a feed that does not answer."""
 import pathlib
 import shutil
+import socket
 
 from case import PROGRAM, DesktopTest
 from program import Program
@@ -35,6 +36,16 @@ class Updates(DesktopTest):
         self.assertIsNotNone(self.program.log.find("现在是否是应用程序更新的时候？ false"))
         self.settle()
         self.assertEqual(1, len(self.screen.managed_windows_of(self.program.pid)))
+
+    def test_a_result_that_comes_late_leaves_the_keyboard_where_the_user_types(self):
+        with socket.create_server(("127.0.0.1", 0)) as server:
+            self.start(self.install_with_feed(f"https://127.0.0.1:{server.getsockname()[1]}/feed.xml"))
+            connection, _ = server.accept()
+            editor = self.session.open_editor("mousepad")
+            connection.close()
+            self.program.log.wait_for("update")
+            self.settle()
+            self.assertTrue(editor.is_in_front())
 
     def test_without_a_feed_a_launch_that_is_due_for_a_check_shows_nothing(self):
         self.start(PROGRAM, settings={"LastUpdateCheckDate": "2020-01-01T00:00:00+0000"})
