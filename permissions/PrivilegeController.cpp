@@ -44,6 +44,7 @@ std::vector<ActionBinding> PrivilegeController::actions() {
 }
 
 void PrivilegeController::viewWillAppear() {
+    ViewController::viewWillAppear();
     timer = RunLoop::shared().scheduleRepeatingTimer(refreshInterval, [this] { checkPermission(); });
 }
 

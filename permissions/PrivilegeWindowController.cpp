@@ -8,6 +8,7 @@ PrivilegeWindowController::PrivilegeWindowController()
     : InterfaceWindowController("PrivilegeWindowController", std::make_unique<PrivilegeController>()) {}
 
 void PrivilegeWindowController::windowDidLoad() {
+    InterfaceWindowController::windowDidLoad();
     Window& privilegeWindow = *window();
     privilegeWindow.appearance = "NSAppearanceNameDarkAqua";
     privilegeWindow.hasShadow = false;

@@ -1,8 +1,17 @@
 #include "platform/InterfaceWindowController.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace orlamo {
+
+namespace {
+
+// Points that title bars, borders and panels commonly take.
+constexpr double sideRoom = 16;
+constexpr double barRoom = 96;
+
+}  // namespace
 
 InterfaceWindowController::InterfaceWindowController(std::string interfaceName,
                                                      std::unique_ptr<ViewController> contentViewController)
@@ -19,8 +28,26 @@ void InterfaceWindowController::showWindow() {
     ownWindow_->makeKeyAndOrderFront();
 }
 
+// A file that does not describe a window still leaves the user one to close. A window never wants more than the screen
+// has beside its title bar and the desktop's panels.
+WindowDescription InterfaceWindowController::describe() {
+    WindowDescription description = InterfaceFiles::shared().window(interfaceName_);
+    if (description.contentSize.width <= 0 || description.contentSize.height <= 0) {
+        description.contentSize = content_->view().size();
+        description.styleMask = Window::titled | Window::closable;
+    }
+    const auto screen = WindowSystem::shared().mainScreen();
+    if (!screen) return description;
+    const Size room{screen->frame.width - sideRoom, screen->frame.height - barRoom};
+    for (Size* const size : {&description.contentSize, &description.minSize}) {
+        size->width = std::min(size->width, room.width);
+        size->height = std::min(size->height, room.height);
+    }
+    return description;
+}
+
 void InterfaceWindowController::loadWindow() {
-    const WindowDescription description = InterfaceFiles::shared().window(interfaceName_);
+    const WindowDescription description = describe();
     const Rect content{0, 0, description.contentSize.width, description.contentSize.height};
     ownWindow_ =
         std::make_unique<Window>(content, description.styleMask, Window::Backing::buffered, Window::Defer::yes);

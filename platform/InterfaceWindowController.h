@@ -21,6 +21,7 @@ public:
     virtual void windowDidLoad() {}
 
 private:
+    WindowDescription describe();
     void loadWindow();
 
     std::string interfaceName_;

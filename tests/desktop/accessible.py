@@ -9,7 +9,7 @@ REGISTRY = "org.a11y.atspi.Registry"
 ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 MENU_BAR, TEXT, CHECK_BOX = 34, 61, 7  # AtspiRole
-ACTIVE, CHECKED, FOCUSED, SHOWING = 1, 4, 12, 25  # AtspiStateType
+ACTIVE, CHECKED, FOCUSED, SENSITIVE, SHOWING = 1, 4, 12, 24, 25  # AtspiStateType
 
 
 def connect(address):

@@ -1,6 +1,7 @@
 """The real program in a test's desktop: its log, its settings, its panel."""
 import ast
 import json
+import pathlib
 import re
 import tempfile
 
@@ -64,6 +65,11 @@ class Program:
     def assert_alive(self):
         if self.process.poll() is not None:
             raise Timeout("the program ended:\n" + "\n".join(self.log.lines()[-20:]))
+
+    def wake_ups(self):
+        """How often its main thread has slept and gone on."""
+        status = pathlib.Path(f"/proc/{self.pid}/status").read_text()
+        return int(re.search(r"^voluntary_ctxt_switches:\s+(\d+)", status, re.M)[1])
 
     def stop(self):
         self.session.stop(self.process)

@@ -74,6 +74,14 @@ class Screen:
         xtest.fake_input(self.display, X.ButtonRelease, 1)
         self.display.sync()
 
+    def wheel_down(self):
+        xtest.fake_input(self.display, X.ButtonPress, 5)
+        xtest.fake_input(self.display, X.ButtonRelease, 5)
+        self.display.sync()
+
+    def held_buttons(self):
+        return self.root.query_pointer().mask & (X.Button1Mask | X.Button2Mask | X.Button3Mask)
+
     # Windows.
     def _property(self, window, name, kind):
         try:

@@ -1,5 +1,6 @@
 """Starting the program: the order of its launch, its first window, and what may be missing."""
 import shutil
+import time
 
 from case import DesktopTest
 from program import LAUNCHED
@@ -50,6 +51,26 @@ class Launch(DesktopTest):
         program.wait_until_closed()
         wait_until(editor.is_in_front, 5, "focus back in the editor")
         self.assertIsNotNone(program.preferences())
+
+
+    def test_an_idle_program_does_not_wake_up(self):
+        program = self.start_program()
+        self.session.open_editor("mousepad")
+        self.settle()
+        before = program.wake_ups()
+        time.sleep(5)
+        self.assertLessEqual(program.wake_ups() - before, 3)
+
+
+class SmallScreen(DesktopTest):
+    session_arguments = {"size": "1024x560x24"}
+
+    def test_the_preferences_fit_on_a_small_screen(self):
+        window = self.start_program(keeps_preferences=True).wait_for_preferences()
+        x, y, width, height = self.screen.geometry_of(window)
+        self.assertGreater(y, 10, "room for the title bar")
+        self.assertGreaterEqual(x, 0)
+        self.assertLessEqual((x + width, y + height), (self.screen.width, self.screen.height))
 
 
 class PoorSession(DesktopTest):

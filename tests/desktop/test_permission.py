@@ -43,8 +43,13 @@ class Permission(DesktopTest):
         window = self.wait_for_window()
         self.screen.activate_window(window)
         wait_until(lambda: self.screen.keyboard_pid() == self.program.pid, 5, "focus for the permission window")
-        self.screen.tap("Tab")  # from the check box, which would do the same
+        self.screen.tap("space")  # meant for another program
+        self.settle()
+        self.assertFalse(accessible.is_on(self.session.session_bus))
+        self.screen.tap("Tab")  # the check box, which would do the same
+        self.screen.tap("Tab")
         self.screen.tap("space")
         self.program.log.wait_for("授权----辅助功能")
         wait_until(lambda: accessible.is_on(self.session.session_bus), 3, "bus that is switched on")
+        self.assertEqual(0, self.screen.held_buttons())
         self.assert_granted()

@@ -1,5 +1,5 @@
 """The preferences, used as a person without a mouse or with a screen reader uses them."""
-from accessible import CHECK_BOX, CHECKED, AccessibleApplication
+from accessible import CHECK_BOX, CHECKED, SENSITIVE, AccessibleApplication
 from case import DesktopTest
 from screen import wait_until
 from texts import texts
@@ -8,7 +8,7 @@ TEXTS = texts()
 # The check boxes by the keys of their texts, and the settings they write.
 BOXES = (("settings.login", "isLaunchAtLoginEnabled"), ("settings.hide_icon", "isHiddenStatusBar"),
          ("settings.taskbar", "dockIcon"), ("settings.blur", "isBlurStyle"),
-         ("settings.session_menu", "isContainsAppleMenu"), ("settings.check_updates", "isEnableAutomaticCheckUpdate"))
+         ("settings.check_updates", "isEnableAutomaticCheckUpdate"))
 
 
 class Preferences(DesktopTest):
@@ -51,6 +51,7 @@ class Preferences(DesktopTest):
                 self.reader.press(box)
                 self.wait_for_setting(setting, not before)
                 self.assertEqual(not before, self.reader.has_state(box, CHECKED))
+        self.assertFalse(self.reader.has_state(self.box("settings.session_menu"), SENSITIVE), "no desktop has it yet")
         entry = self.session.config / "autostart" / "app.orlamo.OrlamoHelper.desktop"
         self.assertIn("\nExec=", entry.read_text())
         self.reader.press(self.box("settings.login"))
@@ -91,6 +92,17 @@ class Preferences(DesktopTest):
         radius = self.program.settings()["CornerRadius"]
         self.assertIsNotNone(self.program.log.find(f"滑动的圆角半径： {radius}"))
         wait_until(lambda: self.reader.element(str(radius)), 5, "number beside the slider")
+
+    def test_the_wheel_scrolls_the_page_and_changes_no_control(self):
+        x, y, width, height = self.screen.geometry_of(self.window)
+        for column in range(x + width // 2, x + width - 40, 20):
+            self.screen.move_pointer(column, y + height // 2)
+            for _ in range(6):
+                self.screen.wheel_down()
+        self.find("settings.updates")
+        self.assertNotIn("CornerRadius", self.program.settings())
+        self.assertNotIn("doubleModifierKey", {key: value for key, value in self.program.settings().items()
+                                               if value != "Command"})
 
     def test_the_help_opens_beside_its_button_and_closes_with_escape(self):
         self.tab_to(TEXTS["settings.help"])

@@ -140,5 +140,20 @@ TEST(DisablableScrollView, DropsTheWheel) {
     EXPECT_TRUE(scrollView.scrolledBy.empty());
 }
 
+TEST_F(PreferencesTest, TheWindowFitsOnASmallScreenAndNeedsNoDescription) {
+    desktop.windows.main = Screen{{0, 0, 800, 500}, "Small"};
+    Preferences small;
+    small.showWindow();
+    EXPECT_LE(small.window()->frame().width, 800);
+    EXPECT_LT(small.window()->frame().maxY(), 500 - 20) << "room for the title bar";
+    EXPECT_LE(small.window()->minSize.height, small.window()->frame().height);
+
+    files.windows.clear();
+    Preferences bare;
+    bare.showWindow();
+    EXPECT_GT(bare.window()->frame().width, 100);
+    EXPECT_EQ(bare.window()->styleMask(), Window::titled | Window::closable);
+}
+
 }  // namespace
 }  // namespace orlamo

@@ -71,6 +71,8 @@ void QtControlsWindowHost::create() {
     shell_->setWindowTitle(QString::fromStdString(window_.title));
     // Tells window managers' rules, and whoever looks for it, one window of the program from another.
     shell_->setWindowRole(QString::fromStdString(window_.contentViewController()->interfaceName()));
+    // A window without a title bar comes by itself, to ask: the key that the user was about to type is no answer.
+    if ((window_.styleMask() & Window::titled) == 0) shell_->setFocus();
     place();
     shell_->winId();  // makes the native window, for what must be known of it before it appears
     PanelSurface::synchronize();

@@ -29,6 +29,23 @@ ControlState stateOf(const QAbstractButton& button) {
     return button.isChecked() ? ControlState::on : ControlState::off;
 }
 
+class WheelFilter : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Wheel) return false;
+        event->ignore();  // so the toolkit offers it to the parent
+        return true;
+    }
+};
+
+// A page that scrolls moves controls under the pointer: their values must not follow the wheel.
+void leaveWheelToParent(QWidget& widget) {
+    widget.installEventFilter(new WheelFilter(&widget));
+}
+
 }  // namespace
 
 template <class Interface>
@@ -80,6 +97,10 @@ bool QtButton<Interface>::setAction(std::function<void()> perform) {
 template class QtButton<Button>;
 template class QtButton<CheckBox>;
 
+QtPopUpButton::QtPopUpButton(QComboBox& box) : ControlAdapter(box) {
+    leaveWheelToParent(box);
+}
+
 std::optional<std::string> QtPopUpButton::titleOfSelectedItem() const {
     if (native() == nullptr || native()->currentIndex() < 0) return std::nullopt;
     return native()->currentText().toStdString();
@@ -95,6 +116,10 @@ bool QtPopUpButton::setAction(std::function<void()> perform) {
     if (native() == nullptr) return false;
     QObject::connect(native(), &QComboBox::activated, native(), [perform = std::move(perform)] { perform(); });
     return true;
+}
+
+QtSlider::QtSlider(QSlider& slider) : ControlAdapter(slider) {
+    leaveWheelToParent(slider);
 }
 
 bool QtSlider::setAction(std::function<void()> perform) {

@@ -30,18 +30,20 @@ private:
     ControlState pushState_ = ControlState::off;
 };
 
+/// The wheel over it scrolls the page around it and does not change it.
 class QtPopUpButton final : public ControlAdapter<PopUpButton, QComboBox> {
 public:
-    using ControlAdapter::ControlAdapter;
+    explicit QtPopUpButton(QComboBox& box);
 
     std::optional<std::string> titleOfSelectedItem() const override;
     void selectItemWithTitle(std::string_view title) override;
     bool setAction(std::function<void()> perform) override;
 };
 
+/// The wheel over it scrolls the page around it and does not change it.
 class QtSlider final : public ControlAdapter<Slider, QSlider> {
 public:
-    using ControlAdapter::ControlAdapter;
+    explicit QtSlider(QSlider& slider);
 
     double doubleValue() const override { return static_cast<double>(integerValue()); }
     std::int64_t integerValue() const override { return native() != nullptr ? native()->value() : 0; }
