@@ -24,6 +24,15 @@ std::vector<std::uint8_t> contents(const std::filesystem::path& path) {
     return bytes;
 }
 
+// The table is named after one country; its script is read in others too.
+bool readsSimplifiedChinese(const QLocale& locale) {
+    for (const QString& language : locale.uiLanguages()) {
+        const QLocale spoken(language);
+        if (spoken.language() == QLocale::Chinese) return spoken.script() == QLocale::SimplifiedHanScript;
+    }
+    return false;
+}
+
 }  // namespace
 
 std::filesystem::path resourcesFolder(const std::filesystem::path& executable) {
@@ -37,7 +46,9 @@ QtBundle::QtBundle(std::filesystem::path folder, const QLocale& locale) : folder
     readInformation();
     const QString directory = QString::fromStdString(folder_.string());
     // Without a table of the user's language the English one speaks alone.
-    [[maybe_unused]] const bool spoken = userLanguage_.load(locale, table, "_", directory);
+    [[maybe_unused]] const bool spoken =
+        userLanguage_.load(locale, table, "_", directory) ||
+        (readsSimplifiedChinese(locale) && userLanguage_.load(QString(table) + "_zh_CN", directory));
     if (!english_.load(QString(table) + "_en", directory)) {
         logLine("bundle: no string table in " + folder_.string() + "; texts are shown as their keys");
     }

@@ -40,6 +40,10 @@ TEST_F(BundleOfFiles, SpeaksTheUsersLanguageElseEnglishElseShowsTheKey) {
     const qt::QtBundle neither(built, QLocale("de_AT"));
     EXPECT_EQ(english.localizedString("System"), "System");
     EXPECT_NE(chinese.localizedString("System"), "System");
+    const qt::QtBundle singapore(built, QLocale("zh_Hans_SG"));
+    const qt::QtBundle taiwan(built, QLocale("zh_TW"));
+    EXPECT_EQ(singapore.localizedString("System"), chinese.localizedString("System"));
+    EXPECT_EQ(taiwan.localizedString("System"), "System") << "another script";
     EXPECT_EQ(neither.localizedString("tab.types.settings"), english.localizedString("tab.types.settings"));
     EXPECT_NE(english.localizedString("tab.types.settings"), "tab.types.settings");
     EXPECT_EQ(chinese.localizedString("no.such.key"), "no.such.key");
