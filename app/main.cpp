@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QMessageBox>
+#include <QSessionManager>
 #include <filesystem>
 
 #include "platform/appcast/UpdaterController.h"
@@ -99,6 +100,9 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    // Whether it starts with the session is for the user's setting to say, not for what ran at the last log-out.
+    QObject::connect(&application, &QGuiApplication::saveStateRequest,
+                     [](QSessionManager& session) { session.setRestartHint(QSessionManager::RestartNever); });
 
     const Installed<Clock, qt::SystemClock> clock;
     const Installed<RunLoop, qt::QtRunLoop> runLoop;
@@ -154,9 +158,11 @@ int main(int argc, char** argv) {
                        .sessionMenu = {},
                        .bringForward = bringForward});
 
+    activation.answerWaiting();
     AppDelegate delegate;
     program.delegate = &delegate;
     delegate.applicationWillFinishLaunching();
+    activation.answerWaiting();
     delegate.applicationDidFinishLaunching();
     activation.setHandler(
         [&delegate] { delegate.applicationShouldHandleReopen(delegate.preferences.window()->isVisible()); });

@@ -157,14 +157,14 @@ LaunchOutcome ActivationService::launch() {
 void ActivationService::setHandler(Handler handler) {
     handler_ = std::move(handler);
     if (bus_ == nullptr || watch_) return;
-    watch_ = RunLoop::shared().watchReadable(sd_bus_get_fd(bus_), [this] { handle(); });
+    watch_ = RunLoop::shared().watchReadable(sd_bus_get_fd(bus_), [this] { answerWaiting(); });
     // What came in during launch() has been read already, so the descriptor stays silent about it.
     RunLoop::shared().asyncAfter(0, [this, alive = std::weak_ptr<bool>(isAlive_)] {
-        if (!alive.expired()) handle();
+        if (!alive.expired()) answerWaiting();
     });
 }
 
-void ActivationService::handle() {
+void ActivationService::answerWaiting() {
     int result = 0;
     while (bus_ != nullptr && (result = sd_bus_process(bus_, nullptr)) > 0) {
     }

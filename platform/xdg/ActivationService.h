@@ -37,12 +37,14 @@ public:
     /// From now on, with the run loop: called for each activation, also for those that came in since launch(). Only
     /// after an outcome `first`; otherwise it is never called.
     void setHandler(Handler handler);
+    /// Answers what has come in so far, without the run loop: for a launch that takes its time. The handler hears of it
+    /// once it is set and the loop runs.
+    void answerWaiting();
 
 private:
     bool connect();
     int handOver();
     int answer(sd_bus_message* message);
-    void handle();
     void close();
 
     std::string name_;
