@@ -131,13 +131,10 @@ TEST_F(MenuHarvest, ASubmenuStandsWhereItsItemIs) {
                             "Edit/Find|Deepest|⌘|D|", "Edit/Dienste", "Edit/Dienste|Anruf|⌘|S|", "Edit|Paste|⌘|V|"));
 }
 
-TEST_F(MenuHarvest, ASubmenuAtTheEndKeepsItsTitleUnlessItsOwnMenuHasNone) {
+TEST_F(MenuHarvest, ASubmenuAtTheEndKeepsItsTitleUnlessItHasNoneOrThatOfItsMenu) {
     EXPECT_THAT(harvestedMenu({submenu("Find", {item("Next", "G")})}),
                 ElementsAre("Edit", "Edit/Find", "Edit/Find|Next|⌘|G|"));
     EXPECT_THAT(harvestedMenu({menu("Find", {item("Next", "G")})}), ElementsAre("Edit", "Edit|Next|⌘|G|"));
-}
-
-TEST_F(MenuHarvest, ASubmenuNamedLikeItsMenuIsPartOfTheMenu) {
     EXPECT_THAT(harvestedMenu({submenu("Edit", {item("Next", "G")}), item("Copy", "C")}),
                 ElementsAre("Edit", "Edit|Copy|⌘|C|", "Edit|Next|⌘|G|"));
 }
@@ -209,6 +206,13 @@ TEST_F(MenuHarvest, WithoutAMenuBarThereIsNothingAndTheOldListsAreGone) {
         EXPECT_THAT(menuItemElements, IsEmpty()) << name;
         EXPECT_EQ(menuItemKeyCodes.size(), 1U) << name;
     }
+}
+
+TEST_F(MenuHarvest, TheLogFormOfWhatWasReadLeavesAbsentFieldsOut) {
+    const MenuItemRecord record{"Edit/Find", "Next", "⌘", "G", std::nullopt};
+    EXPECT_FALSE(record["path"]) << "no key of a record";
+    EXPECT_EQ(describe(std::vector<MenuEntry>{"Edit", record}),
+              R"(["Edit", {"MenuItemCmdChar": "G", "Modifier": "⌘", "Path": "Edit/Find", "Title": "Next"}])");
 }
 
 TEST_F(MenuHarvest, EachElementIsAskedOnce) {

@@ -27,17 +27,12 @@ std::size_t numberOf(const AXUIElementRef& element) {
     return static_cast<const Numbered&>(*element).number;
 }
 
-// What the list has to do, said plainly.
-struct ScannedList {
-    bool empty() const { return numbers.empty(); }
-    void append(std::size_t number) { numbers.push_back(number); }
-    std::size_t take() {
-        const std::size_t front = numbers.front();
-        std::erase(numbers, front);
-        return front;
-    }
-    std::vector<std::size_t> numbers;
-};
+// What taking has to do, said plainly.
+std::size_t takeScanning(std::vector<std::size_t>& numbers) {
+    const std::size_t front = numbers.front();
+    std::erase(numbers, front);
+    return front;
+}
 
 TEST(WorkList, TakesTheSameElementsAsAListThatIsScanned) {
     for (unsigned seed = 1; seed <= 200; ++seed) {
@@ -45,17 +40,17 @@ TEST(WorkList, TakesTheSameElementsAsAListThatIsScanned) {
         const std::size_t distinct = 1 + random() % 12;
         WorkList queue;
         WorkList pending;
-        ScannedList expectedQueue;
-        ScannedList expectedPending;
+        std::vector<std::size_t> expectedQueue;
+        std::vector<std::size_t> expectedPending;
         for (int step = 0; step < 400; ++step) {
             const auto choice = random() % 100;
             if (choice < 55) {
                 const std::size_t number = random() % distinct;
                 queue.append(reference(number));
-                expectedQueue.append(number);
+                expectedQueue.push_back(number);
             } else if (choice < 90) {
                 if (expectedQueue.empty()) continue;
-                ASSERT_EQ(numberOf(queue.take()), expectedQueue.take()) << "seed " << seed;
+                ASSERT_EQ(numberOf(queue.take()), takeScanning(expectedQueue)) << "seed " << seed;
             } else {
                 std::swap(queue, pending);
                 std::swap(expectedQueue, expectedPending);
