@@ -30,11 +30,14 @@ TEST_F(CanvasViewDrawing, ACellShowsItsModifiersUpTo50ItsKeyFrom60AndItsTitleFro
     EXPECT_EQ(context.find("Save")->pointSize, 14);
 }
 
-TEST_F(CanvasViewDrawing, TheKeyboardSaysWhatItPrintsOnItsKeys) {
+TEST_F(CanvasViewDrawing, TheKeyboardSaysWhatItPrintsOnItsKeysAndAGlyphStandsInForAMissingCharacter) {
     desktop.keyboard.modifierLegends["⌘"] = "Ctrl";
     desktop.keyboard.keyLegends["F13"] = "PrtSc";
     addItem("Shoot", "⌘", "F13");
+    addItem("Delete", "⌘", "", "23");
     open();
+    EXPECT_NE(context.find("⌫"), nullptr);
+    EXPECT_EQ(view->currentShortM.at(1).keyString, "⌫");
     const double x = view->currentShortM.at(0).rect.x;
     EXPECT_EQ(context.find("Ctrl")->origin.x, x - static_cast<int>(4 * 0.6 * 14) + 50);
     EXPECT_EQ(context.find("PrtSc")->origin.x, x + 60);
@@ -76,7 +79,7 @@ TEST_F(CanvasViewDrawing, TheTitleBarsStandAboveTheirAreas) {
     EXPECT_EQ(context.find("System!")->pointSize, 17);
 }
 
-TEST_F(CanvasViewDrawing, ABarIsFiveArcsClockwiseFromItsLowerRightCorner) {
+TEST_F(CanvasViewDrawing, ABarIsFiveArcsClockwiseAndTheSystemsKeepsItsWidthTurnedPositiveWithoutEntries) {
     addItem("Save");
     open();
     using Angles = std::pair<double, double>;
@@ -89,11 +92,6 @@ TEST_F(CanvasViewDrawing, ABarIsFiveArcsClockwiseFromItsLowerRightCorner) {
     }
     EXPECT_THAT(angles,
                 ElementsAre(Angles{-50, -90}, Angles{-90, -180}, Angles{180, 90}, Angles{90, 0}, Angles{0, -50}));
-}
-
-TEST_F(CanvasViewDrawing, WithoutSystemEntriesTheSystemBarKeepsItsWidthTurnedPositive) {
-    addItem("Save");
-    open();
     const auto& elements = context.fills.at(1).path.elements;
     const double x1 = 113 + 70;
     EXPECT_EQ(elements[1].point.x, x1 + 5);
@@ -142,13 +140,6 @@ TEST_F(CanvasViewDrawing, AnEntryTitledSpaceLeavesItsRowEmptyAndTakesNoElement) 
     ASSERT_EQ(view->currentShortM.size(), 2U);
     EXPECT_EQ(view->currentShortM[1].rect.y, view->currentShortM[0].rect.y - 60);
     EXPECT_TRUE(view->currentShortM[1].element->isSameElement(*FakeAccessibility::reference(elements[1])));
-}
-
-TEST_F(CanvasViewDrawing, AGlyphStandsInForAMissingKeyCharacter) {
-    addItem("Delete", "⌘", "", "23");
-    open();
-    EXPECT_NE(context.find("⌫"), nullptr);
-    EXPECT_EQ(view->currentShortM.at(0).keyString, "⌫");
 }
 
 TEST_F(CanvasViewDrawing, TheApplicationsEntriesEndWithTheFirstCellThatFindsNoKeyCode) {

@@ -15,24 +15,20 @@ struct TierCase {
 class CanvasViewTier : public PanelFixture, public testing::WithParamInterface<TierCase> {};
 
 TEST_P(CanvasViewTier, FollowsFromTheNumberOfEntriesAndStaysWhenDrawnAgain) {
-    const TierCase& expected = GetParam();
-    addItems(expected.total);
+    addItems(GetParam().total);
     open();
-    std::optional<Rect> before;
-    for (int pass = 0; pass < 2; ++pass) {
-        EXPECT_EQ(view->totalMenuColumn, expected.columns);
-        EXPECT_EQ(view->rowNumberEveryColume, expected.rows);
-        EXPECT_EQ(view->rowHeight, expected.rowHeight);
-        EXPECT_EQ(view->textSize, expected.textSize);
-        EXPECT_EQ(view->GlobalSpacing, expected.spacing);
-        EXPECT_EQ(view->totalEveryColume, expected.perColumn);
-        EXPECT_EQ(view->isXcode, expected.isDense);
-        if (before) {
-            EXPECT_EQ(view->tempRect, before);
-        }
-        before = view->tempRect;
-        draw();
-    }
+    const auto expected = [this](const TierCase& tier) {
+        return std::tuple(tier.columns, tier.rows, tier.rowHeight, tier.textSize, tier.spacing, tier.perColumn,
+                          tier.isDense, view->tempRect);
+    };
+    const auto shown = [this] {
+        return std::tuple(view->totalMenuColumn, view->rowNumberEveryColume, view->rowHeight, view->textSize,
+                          view->GlobalSpacing, view->totalEveryColume, view->isXcode, view->tempRect);
+    };
+    const auto first = expected(GetParam());
+    EXPECT_EQ(shown(), first);
+    draw();
+    EXPECT_EQ(shown(), first);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -136,7 +132,7 @@ TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOve
     EXPECT_EQ(view->currentShortM.at(0).title, std::string(24, 'x') + "...");
 }
 
-TEST_F(CanvasViewLayout, WithoutTheSessionMenuTheFirstFiveEntriesAreTakenOut) {
+TEST_F(CanvasViewLayout, WithoutTheSessionMenuTheFirstFiveEntriesAreTakenOutButNeverTheName) {
     desktop.defaults.values["isContainsAppleMenu"] = false;
     addHeading("Session");
     addItems(6);
@@ -145,15 +141,20 @@ TEST_F(CanvasViewLayout, WithoutTheSessionMenuTheFirstFiveEntriesAreTakenOut) {
     EXPECT_EQ(std::get<std::string>(view->itemsToRemove.front()), "Session");
     ASSERT_EQ(appMenuItems.size(), 3U);
     EXPECT_EQ(*std::get<MenuItemRecord>(appMenuItems.front()).title, "Item 4");
-}
-
-TEST_F(CanvasViewLayout, TheNameSurvivesATrimOfAShortList) {
-    desktop.defaults.values["isContainsAppleMenu"] = false;
+    appMenuItems.clear();
     addItems(2);
     open("Tiny");
     ASSERT_EQ(appMenuItems.size(), 1U);
     EXPECT_EQ(view->currentAppName, "Tiny");
     EXPECT_NE(context.find("Tiny"), nullptr);
+}
+
+TEST_F(CanvasViewLayout, WhereThereIsNoSessionMenuNothingIsTakenOut) {
+    desktop.accessibility.sessionMenu = false;
+    desktop.defaults.values["isContainsAppleMenu"] = false;
+    addItems(6);
+    open();
+    EXPECT_EQ(appMenuItems.size(), 7U);
 }
 
 TEST_F(CanvasViewLayout, AListWithNothingButANameStillHasRoomForTheSystemArea) {

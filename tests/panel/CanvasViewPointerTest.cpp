@@ -62,15 +62,18 @@ TEST_F(CanvasViewPointer, EveryMoveAsksForAPassAndLeavingEndsTheHighlight) {
     EXPECT_TRUE(view->needsDisplay());
 }
 
-TEST_F(CanvasViewPointer, ACellBeyondTheBoundsIsHitWhereItIsDrawn) {
+TEST_F(CanvasViewPointer, ACellBeyondTheBoundsIsHitWhereItIsDrawnAndARefusedPressIsLogged) {
     addItems(400);  // 100 rows of 17 points in a view of 800
     open();
     const Rect last = view->currentShortM.back().rect;
     ASSERT_LT(last.y, 0);
     moveTo(last);
     EXPECT_EQ(view->currentHighlightedRect, last);
+    elements.back()->pressResult = AXError::cannotComplete;
     click(last);
     EXPECT_EQ(desktop.accessibility.presses.size(), 1U);
+    EXPECT_TRUE(desktop.log.contains("点击操作失败，错误码：-25204"));
+    EXPECT_TRUE(isClosing());
 }
 
 TEST_F(CanvasViewPointer, AClickPressesTheFirstItemOfThatTitleAndClosesThePanel) {
@@ -96,15 +99,6 @@ TEST_F(CanvasViewPointer, AClickPressesTheFirstItemOfThatTitleAndClosesThePanel)
     desktop.runLoop.advance(0.001);
     EXPECT_FALSE(isShortcutWindowShown);
     EXPECT_FALSE(window.isVisible());
-}
-
-TEST_F(CanvasViewPointer, ARefusedPressIsLoggedWithItsCodeAndClosesThePanel) {
-    addItem("Save");
-    open();
-    elements[0]->pressResult = AXError::cannotComplete;
-    click(view->currentShortM.at(0).rect);
-    EXPECT_TRUE(desktop.log.contains("点击操作失败，错误码：-25204"));
-    EXPECT_TRUE(isClosing());
 }
 
 TEST_F(CanvasViewPointer, AnUnknownTitleOrAnEmptyHarvestClosesThePanelWithoutAPress) {

@@ -29,7 +29,6 @@ protected:
 };
 
 TEST_F(PanelController, OpensABorderlessDarkWindowAboveOthersAndActivatesTheProgram) {
-    desktop.defaults.values["isBlurStyle"] = true;
     desktop.defaults.values["CornerRadius"] = std::int64_t{12};
     controller.showShortcutWindow();
     const Window& panel = controller.canvasWindow();
@@ -44,25 +43,24 @@ TEST_F(PanelController, OpensABorderlessDarkWindowAboveOthersAndActivatesTheProg
     EXPECT_TRUE(panel.isVisible());
     EXPECT_EQ(panel.backgroundColor, Color::clearColor());
     EXPECT_EQ(desktop.application.activations.size(), 1U);
-    const auto* const blur = dynamic_cast<VisualEffectView*>(panel.contentView());
-    ASSERT_NE(blur, nullptr);
-    EXPECT_EQ(static_cast<int>(blur->material), 15);
-    EXPECT_EQ(static_cast<int>(blur->state), 1);
-    EXPECT_EQ(static_cast<int>(blur->blendingMode), 1);
-    EXPECT_EQ(blur->maskImage->cornerRadius, 30);
     ASSERT_NE(controller.canvasView(), nullptr);
     EXPECT_EQ(controller.canvasView()->frame().size(), (Size{1240, 800}));
     EXPECT_EQ(controller.canvasView()->ShortcutWindowCornerRadius, 12);
     EXPECT_EQ(controller.canvasView()->ShortcutWindowBgColor, Color::textBackgroundColor());
 }
 
-TEST_F(PanelController, WithoutBlurTheMaterialIsThePlainerOneAndTheCornersStay) {
-    desktop.defaults.values["isBlurStyle"] = false;
-    controller.showShortcutWindow();
-    const auto* const blur = dynamic_cast<VisualEffectView*>(controller.canvasWindow().contentView());
-    ASSERT_NE(blur, nullptr);
-    EXPECT_EQ(static_cast<int>(blur->material), 11);
-    EXPECT_EQ(blur->maskImage->cornerRadius, 30);
+TEST_F(PanelController, WithoutBlurTheMaterialIsThePlainerOneAndAllElseStays) {
+    for (const auto& [isBlurStyle, material] : {std::pair{true, 15}, std::pair{false, 11}}) {
+        desktop.defaults.values["isBlurStyle"] = isBlurStyle;
+        controller.showShortcutWindow();
+        const auto* const blur = dynamic_cast<VisualEffectView*>(controller.canvasWindow().contentView());
+        ASSERT_NE(blur, nullptr);
+        EXPECT_EQ(static_cast<int>(blur->material), material);
+        EXPECT_EQ(static_cast<int>(blur->state), 1);
+        EXPECT_EQ(static_cast<int>(blur->blendingMode), 1);
+        EXPECT_EQ(blur->maskImage->cornerRadius, 30);
+        controller.hideShortcutWindow();
+    }
 }
 
 TEST_F(PanelController, DoesNothingForTheProgramItself) {
@@ -91,14 +89,6 @@ TEST_F(PanelController, WithoutAMainScreenOneLineIsLoggedAndNothingIsRead) {
     EXPECT_EQ(desktop.log.count("no main screen: the panel is not shown"), 1);
 }
 
-TEST_F(PanelController, TheMainScreensSizeIsKeptFromItsFirstReading) {
-    controller.showShortcutWindow();
-    controller.hideShortcutWindow();
-    desktop.windows.main->frame = {0, 0, 800, 600};
-    controller.showShortcutWindow();
-    EXPECT_EQ(controller.canvasWindow().frame().size(), (Size{1240, 800}));
-}
-
 TEST_F(PanelController, HidingEmptiesTheListsAndHandsTheFocusBack) {
     isShortcutWindowShown = true;
     controller.showShortcutWindow();
@@ -115,7 +105,11 @@ TEST_F(PanelController, HidingEmptiesTheListsAndHandsTheFocusBack) {
     EXPECT_THAT(desktop.workspace.activations, testing::ElementsAre(testing::Pair(FakeDesktop::editorProcess, 2U)));
 }
 
-TEST_F(PanelController, HidingLeavesTheUserWhereTheyWentMeanwhile) {
+TEST_F(PanelController, HidingLeavesTheUserWhereTheyWentMeanwhileAndOneNeverShownHandsNothingBack) {
+    desktop.workspace.frontmost = program;
+    controller.hideShortcutWindow();
+    EXPECT_TRUE(desktop.workspace.activations.empty());
+    desktop.openEditor({FakeAccessibility::item("Save", "S")});
     controller.showShortcutWindow();
     desktop.workspace.activations.clear();
     desktop.workspace.frontmost = RunningApplication{77, "org.example.browser", "Browser"};
@@ -123,18 +117,14 @@ TEST_F(PanelController, HidingLeavesTheUserWhereTheyWentMeanwhile) {
     EXPECT_TRUE(desktop.workspace.activations.empty());
 }
 
-TEST_F(PanelController, HidingBeforeAnyShowingActivatesNothing) {
-    desktop.workspace.frontmost = program;
-    controller.hideShortcutWindow();
-    EXPECT_TRUE(desktop.workspace.activations.empty());
-}
-
-TEST_F(PanelController, EveryShowingStartsAnew) {
+TEST_F(PanelController, EveryShowingStartsAnewButWithTheScreensSizeOfTheFirst) {
     controller.showShortcutWindow();
     ASSERT_NE(controller.canvasView(), nullptr);
     controller.hideShortcutWindow();
     EXPECT_EQ(controller.canvasView(), nullptr);
+    desktop.windows.main->frame = {0, 0, 800, 600};
     controller.showShortcutWindow();
+    EXPECT_EQ(controller.canvasWindow().frame().size(), (Size{1240, 800}));
     EXPECT_EQ(menuItemKeyCodes.size(), 1U) << "nothing is left of the showing before";
     EXPECT_EQ(desktop.windows.visibleWindows(), 1);
 }
