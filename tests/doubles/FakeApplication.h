@@ -9,7 +9,6 @@ namespace orlamo {
 class FakeApplication : public Application {
 public:
     void activate(IgnoringOtherApps ignoring) override { activations.push_back(ignoring); }
-
     void setActivationPolicy(ActivationPolicy policy) override { policies.push_back(policy); }
     void terminate() override { ++terminations; }
 

@@ -15,7 +15,6 @@ public:
     };
 
     void CGEventPost(EventTapLocation tap, const KeyboardEvent& event) override { posted.push_back({tap, event}); }
-
     void CGEventPost(EventTapLocation tap, const PointerEvent& event) override { pointer.push_back({tap, event}); }
 
     std::vector<Posted> posted;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -20,11 +19,7 @@ public:
         return std::make_unique<Registration>(*this, add(seconds, seconds, std::move(task)));
     }
 
-    std::unique_ptr<Handle> watchReadable(int descriptor, Task task) override {
-        const std::uint64_t id = ++lastId_;
-        watches_[id] = {descriptor, std::move(task)};
-        return std::make_unique<Registration>(*this, id);
-    }
+    std::unique_ptr<Handle> watchReadable(int, Task) override { return nullptr; }
 
     /// Runs what falls due meanwhile, in order of time, then of registration.
     void advance(double seconds) {
@@ -43,13 +38,6 @@ public:
             run();
         }
         now = end;
-    }
-
-    void makeReadable(int descriptor) {
-        const auto watches = watches_;
-        for (const auto& [id, watch] : watches) {
-            if (watch.first == descriptor && watches_.contains(id)) watch.second();
-        }
     }
 
     std::size_t pending() const { return tasks_.size(); }
@@ -72,7 +60,6 @@ private:
         ~Registration() override {
             if (isAlive_.expired()) return;  // what lives for the process outlives a test's loop
             std::erase_if(loop_.tasks_, [this](const Scheduled& task) { return task.id == id_; });
-            loop_.watches_.erase(id_);
         }
 
     private:
@@ -87,7 +74,6 @@ private:
     }
 
     std::vector<Scheduled> tasks_;
-    std::map<std::uint64_t, std::pair<int, Task>> watches_;
     std::uint64_t lastId_ = 0;
     std::shared_ptr<bool> isAlive_ = std::make_shared<bool>(true);
     Installation installation_{*this};

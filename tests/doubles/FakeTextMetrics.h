@@ -7,21 +7,13 @@
 
 namespace orlamo {
 
-/// Every code point is one character, `characterWidth` times the point size wide.
+/// Every code point is one character, 0.6 times the point size wide.
 class FakeTextMetrics : public TextMetrics {
 public:
     Size measure(std::string_view text, int pointSize) override {
-        ++measurements;
-        return {static_cast<double>(ends(text).size()) * characterWidth * pointSize, lineHeight * pointSize};
+        return {static_cast<double>(characterEnds(text).size()) * 0.6 * pointSize, 1.2 * pointSize};
     }
-    std::vector<std::size_t> characterEnds(std::string_view text) override { return ends(text); }
-
-    double characterWidth = 0.6;
-    double lineHeight = 1.2;
-    int measurements = 0;
-
-private:
-    static std::vector<std::size_t> ends(std::string_view text) {
+    std::vector<std::size_t> characterEnds(std::string_view text) override {
         std::vector<std::size_t> ends;
         for (std::size_t i = 1; i <= text.size(); ++i) {
             const bool continues = i < text.size() && (static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80;
@@ -30,6 +22,7 @@ private:
         return ends;
     }
 
+private:
     Installation installation_{*this};
 };
 

@@ -16,7 +16,6 @@ struct FakeWindowRecord {
     std::vector<Rect> frames;
     int orderFronts = 0;
     int orderOuts = 0;
-    int makeKeys = 0;
     int displayRequests = 0;
     bool isOnScreen = false;
     bool isHosted = true;  // false once the host is gone
@@ -40,7 +39,7 @@ public:
         ++record_->orderOuts;
         record_->isOnScreen = false;
     }
-    void makeKey() override { ++record_->makeKeys; }
+    void makeKey() override {}
     void setNeedsDisplay() override { ++record_->displayRequests; }
 
 private:

@@ -25,8 +25,7 @@ public:
 
     bool activateWithOptions(const RunningApplication& application, unsigned options) override {
         activations.push_back({application.processIdentifier, options});
-        if (onActivate) onActivate(application);
-        return activationSucceeds;
+        return true;
     }
 
     bool openURL(std::string_view address) override {
@@ -36,11 +35,9 @@ public:
     }
 
     std::optional<RunningApplication> frontmost;
-    std::vector<RunningApplication> running;  // the most recently active first
-    bool activationSucceeds = true;
+    std::vector<RunningApplication> running;            // the most recently active first
     std::vector<std::pair<int, unsigned>> activations;  // process id, options
-    std::function<void(const RunningApplication&)> onActivate;
-    std::vector<std::string> opened;  // addresses
+    std::vector<std::string> opened;                    // addresses
     bool openingSucceeds = true;
     std::function<void(const std::string&)> onOpen;
 
