@@ -16,8 +16,8 @@ CollectionGrid arrange(const FlowLayout& layout, const std::vector<int>& itemsIn
     for (const int items : itemsInSection) {
         for (int i = 0; i < items; ++i) {
             const int column = i % grid.columns;
-            grid.frames.push_back({left + column * stepX, (line + i / grid.columns) * stepY, layout.itemSize.width,
-                                   layout.itemSize.height});
+            const int row = line + i / grid.columns;
+            grid.frames.push_back({left + column * stepX, row * stepY, layout.itemSize.width, layout.itemSize.height});
         }
         line += (items + grid.columns - 1) / grid.columns;
     }

@@ -100,7 +100,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, MenuEvent& event)
 
 IconPixmap iconPixmap(const QImage& image) {
     const QImage plain = image.convertToFormat(QImage::Format_ARGB32);
-    IconPixmap pixmap{plain.width(), plain.height(), QByteArray(plain.width() * plain.height() * 4, 0)};
+    IconPixmap pixmap{plain.width(), plain.height(), QByteArray(qsizetype{4} * plain.width() * plain.height(), 0)};
     char* target = pixmap.bytes.data();
     for (int y = 0; y < plain.height(); ++y) {
         const auto* const row = reinterpret_cast<const quint32*>(plain.constScanLine(y));

@@ -39,7 +39,7 @@ bool isThereABus() {
 }
 
 QDBusConnection sessionBus() {
-    const QDBusConnection bus = isThereABus() ? QDBusConnection::sessionBus() : QDBusConnection(QString());
+    QDBusConnection bus = isThereABus() ? QDBusConnection::sessionBus() : QDBusConnection(QString());
     if (!bus.isConnected()) logLine("status icon: no session bus, so only the X server's notification area");
     return bus;
 }
