@@ -1,11 +1,8 @@
 #include "platform/appcast/UpdateCheck.h"
 
-#include <gtest/gtest.h>
-
 #include <fstream>
 #include <random>
 
-#include "tests/doubles/FakeLog.h"
 #include "tests/platform/appcast/FeedFixture.h"
 
 namespace orlamo::appcast {
@@ -15,7 +12,7 @@ using std::chrono::milliseconds;
 
 class UpdateCheckTest : public FeedFixture {
 protected:
-    /// Checks as version 1.2.0; an outcome that does not come within two seconds fails the test.
+    /// Checks as version 1.2.0; an outcome that does not come within five seconds fails the test.
     CheckResult check(const QUrl& feed, const std::set<std::string>& channels = {}) {
         UpdateCheck check({Transport::httpsOrLoopback, limits}, "1.2.0", channels);
         std::optional<CheckResult> result;

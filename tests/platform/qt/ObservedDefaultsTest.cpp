@@ -6,7 +6,6 @@
 
 #include "platform/qt/JsonUserDefaults.h"
 #include "platform/qt/QtRunLoop.h"
-#include "tests/doubles/FakeLog.h"
 #include "tests/platform/qt/QtFixture.h"
 
 namespace orlamo {
@@ -19,21 +18,16 @@ protected:
     ObservedDefaults() { fs::remove_all(folder); }
     ~ObservedDefaults() override { fs::remove_all(folder); }
 
-    /// Long enough for every pending change to be heard.
-    void settle() {
-        bool isOver = false;
-        loop.asyncAfter(0.2, [&] { isOver = true; });
-        while (!isOver) QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-    }
-    /// How often the observer was called meanwhile.
+    /// How often the observer was called meanwhile; long enough for every pending change to be heard.
     int calls(const std::function<void()>& change) {
         heard = 0;
         change();
-        settle();
+        bool isOver = false;
+        loop.asyncAfter(0.2, [&] { isOver = true; });
+        turnEventLoopUntil([&] { return isOver; });
         return heard;
     }
 
-    FakeLog log;
     qt::QtRunLoop loop;
     Service<RunLoop>::Installation installation{loop};
     fs::path folder = fs::temp_directory_path() / ("orlamo-observed-" + std::to_string(::getpid()));

@@ -91,16 +91,10 @@ TEST_F(Host, DrawsOnceForManyRequestsAndNotAtAllWithoutOne) {
     EXPECT_EQ(view->passes, 1);
     turnEventLoop();
     EXPECT_EQ(view->passes, 2);
-    turnEventLoop();
-    EXPECT_EQ(view->passes, 2);
-}
-
-TEST_F(Host, ExposuresAreAnsweredWithoutAPass) {
-    show();
     QExposeEvent exposure(QRect(0, 0, 50, 50));
     QCoreApplication::sendEvent(&native(), &exposure);
     turnEventLoop();
-    EXPECT_EQ(view->passes, 1);
+    EXPECT_EQ(view->passes, 2) << "an exposure is answered without a pass";
 }
 
 TEST_F(Host, AViewThatMarksItselfWhileDrawingIsDrawnAgainLaterNotWithin) {

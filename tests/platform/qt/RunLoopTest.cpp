@@ -1,7 +1,5 @@
 #include <unistd.h>
 
-#include <QElapsedTimer>
-
 #include "platform/qt/QtRunLoop.h"
 #include "tests/platform/qt/QtFixture.h"
 
@@ -10,13 +8,6 @@ namespace {
 
 class Loop : public QtFixture {
 protected:
-    template <class Condition>
-    static bool runUntil(Condition condition) {
-        QElapsedTimer timer;
-        timer.start();
-        while (!condition() && timer.elapsed() < 5000) QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-        return condition();
-    }
     qt::QtRunLoop loop;
 };
 
@@ -27,10 +18,10 @@ TEST_F(Loop, ATimerMayBeDestroyedByItsOwnTaskAndFiresNoMore) {
         handle.reset();
         ++*witness;
     });
-    EXPECT_TRUE(runUntil([&] { return *witness == 1; }));
+    turnEventLoopUntil([&] { return *witness == 1; });
     bool later = false;
     loop.asyncAfter(0.02, [&] { later = true; });
-    EXPECT_TRUE(runUntil([&] { return later; }));
+    turnEventLoopUntil([&] { return later; });
     EXPECT_EQ(*witness, 1);
     EXPECT_EQ(witness.use_count(), 1) << "the task is gone too";
 }
@@ -44,10 +35,10 @@ TEST_F(Loop, AReadableDescriptorIsHeardUntilItsWatchIsDestroyed) {
         if (++heard == 2) watch.reset();
     });
     ASSERT_EQ(write(ends[1], "x", 1), 1);
-    EXPECT_TRUE(runUntil([&] { return heard == 2; }));
+    turnEventLoopUntil([&] { return heard == 2; });
     bool later = false;
     loop.asyncAfter(0.01, [&] { later = true; });
-    EXPECT_TRUE(runUntil([&] { return later; }));
+    turnEventLoopUntil([&] { return later; });
     EXPECT_EQ(heard, 2);
     close(ends[0]);
     close(ends[1]);

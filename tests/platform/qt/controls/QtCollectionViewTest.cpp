@@ -45,10 +45,12 @@ protected:
     std::vector<QPointer<QWidget>> views;
 };
 
-TEST_F(Collection, AsksForEachItemOnceAndIsAsHighAsTheyNeed) {
+TEST_F(Collection, AsksForEachItemOnceIsAsHighAsTheyNeedAndTakesThemWithIt) {
     EXPECT_EQ(asked, (std::vector<std::pair<int, int>>{{0, 0}, {1, 0}, {1, 1}}));
     EXPECT_EQ(widget->minimumHeight(), 240);
     EXPECT_EQ(views[2]->geometry(), QRect(10, 160, 580, 80));
+    widget.reset();
+    EXPECT_FALSE(views[0]);
 }
 
 TEST_F(Collection, OneItemIsSelectedByPressAndKey) {
@@ -62,11 +64,6 @@ TEST_F(Collection, OneItemIsSelectedByPressAndKey) {
     press(*views[0], {10, 10});
     press(*widget, {2, 2});
     EXPECT_EQ(highlighted(), (std::vector<bool>{true, false, false}));
-}
-
-TEST_F(Collection, ItsItemsGoWithIt) {
-    widget.reset();
-    EXPECT_FALSE(views[0]);
 }
 
 TEST(CollectionGrid, FillsLinesInTheMiddleAndBeginsOneForEachSection) {

@@ -45,17 +45,13 @@ protected:
     std::unique_ptr<Window> window;
 };
 
-TEST_F(ControlsWindows, TheContentFillsAWindowOfTheFrameAskedFor) {
+TEST_F(ControlsWindows, TheContentFillsAWindowOfTheFrameThatTheProgramOrTheUserGivesIt) {
     open();
     EXPECT_EQ(native().geometry(), QRect(100, static_cast<int>(screenHeight()) - 300, 300, 200));
     EXPECT_EQ(page.widget().size(), QSize(300, 200));
     EXPECT_EQ(page.appearances, 1);
     window->setContentSize({320, 150});
     EXPECT_EQ(page.widget().size(), QSize(320, 150));
-}
-
-TEST_F(ControlsWindows, TheUsersMovesAndSizesAreTakenOver) {
-    open();
     native().setGeometry(10, 20, 400, 250);
     turnEventLoop();
     EXPECT_EQ(window->frame(), (Rect{10, screenHeight() - 270, 400, 250}));

@@ -81,7 +81,7 @@ TEST_F(Help, ComesAndGoesAsOftenAsAskedAndGivesTheKeyboardBack) {
     }
 }
 
-TEST_F(Help, APressOutsideClosesItAndOneInsideDoesNot) {
+TEST_F(Help, APressOutsideClosesItAndOneInsideDoesNotAndItsContentOutlivesIt) {
     show();
     press(shown(), {100, 50});
     EXPECT_TRUE(popover->isShown());
@@ -90,9 +90,6 @@ TEST_F(Help, APressOutsideClosesItAndOneInsideDoesNot) {
     show();
     press(shown(), {300, 50});
     EXPECT_FALSE(popover->isShown());
-}
-
-TEST_F(Help, TheContentOutlivesIt) {
     show();
     const QPointer<QWidget> widget = &page.widget();
     popover.reset();

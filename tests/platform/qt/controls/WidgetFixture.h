@@ -14,18 +14,8 @@
 
 namespace orlamo {
 
-/// Before the fixture, which would make an application without widgets.
-struct WidgetApplication {
-    WidgetApplication() {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        static int count = 1;
-        static char name[] = "tests";
-        static char* arguments[] = {name, nullptr};
-        if (qGuiApp == nullptr) new QApplication(count, arguments);
-    }
-};
-
-class WidgetFixture : private WidgetApplication, public QtFixture {
+/// Its program comes before the fixture's, which would be one without widgets.
+class WidgetFixture : private OffscreenProgram<QApplication>, public QtFixture {
 protected:
     static void press(QWidget& widget, QPointF at) {
         for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
