@@ -20,6 +20,9 @@ function(orlamo_room path)
   endforeach()
 endfunction()
 
+# A test runs for milliseconds: optimizing it only makes the build longer.
+set(ORLAMO_TEST_OPTIONS $<$<CONFIG:Release,RelWithDebInfo>:-O0>)
+
 # orlamo_tests(path room...): the test program orlamo_<path>_tests of the sources in tests/<path>.
 function(orlamo_tests path)
   get_filename_component(name ${path} NAME)
@@ -29,6 +32,7 @@ function(orlamo_tests path)
     return()
   endif()
   add_executable(orlamo_${name}_tests ${sources})
+  target_compile_options(orlamo_${name}_tests PRIVATE ${ORLAMO_TEST_OPTIONS})
   target_link_libraries(orlamo_${name}_tests PRIVATE orlamo_doubles GTest::gmock_main)
   foreach(used IN LISTS ARGN)
     target_link_libraries(orlamo_${name}_tests PRIVATE orlamo_${used})
