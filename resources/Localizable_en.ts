@@ -233,6 +233,51 @@
         <source>Show Help Menu</source>
         <translation>Show help</translation>
     </message>
+    <!-- The panel: the session menu. These must not be shortened: below 150 points at 13 -->
+    <message>
+        <source>session.lock</source>
+        <translation>Lock Screen</translation>
+    </message>
+    <message>
+        <source>session.log_out</source>
+        <translation>Log Out…</translation>
+    </message>
+    <message>
+        <source>session.shut_down</source>
+        <translation>Shut Down…</translation>
+    </message>
+    <message>
+        <source>session.overview</source>
+        <translation>Show Overview</translation>
+    </message>
+    <message>
+        <source>session.show_desktop</source>
+        <translation>Show Desktop</translation>
+    </message>
+    <message>
+        <source>session.home</source>
+        <translation>Open Home Folder</translation>
+    </message>
+    <message>
+        <source>session.files</source>
+        <translation>Open File Manager</translation>
+    </message>
+    <message>
+        <source>session.terminal</source>
+        <translation>Open Terminal</translation>
+    </message>
+    <message>
+        <source>session.settings</source>
+        <translation>Open System Settings</translation>
+    </message>
+    <message>
+        <source>session.run</source>
+        <translation>Run a Command…</translation>
+    </message>
+    <message>
+        <source>session.tasks</source>
+        <translation>Open Task Manager</translation>
+    </message>
     <!-- The preferences window and the status menu -->
     <message>
         <source>tab.types.settings</source>
@@ -428,6 +473,18 @@
     <message>
         <source>settings.session_menu.description</source>
         <translation>Adds the keys to lock the screen, to log out and the like, where this desktop has them.</translation>
+    </message>
+    <message>
+        <source>settings.session_menu.unknown_desktop</source>
+        <translation>Not available: it is there for GNOME, MATE, Cinnamon, Xfce and KDE Plasma.</translation>
+    </message>
+    <message>
+        <source>settings.session_menu.not_bound</source>
+        <translation>Not available now: this desktop must have keys to lock, to log out and for two more.</translation>
+    </message>
+    <message>
+        <source>settings.session_menu.no_service</source>
+        <translation>Not available now: a service of this desktop that it needs is not running.</translation>
     </message>
     <message>
         <source>settings.look</source>
