@@ -275,6 +275,10 @@
         <translation>Run a Command…</translation>
     </message>
     <message>
+        <source>session.minimize</source>
+        <translation>Minimize Window</translation>
+    </message>
+    <message>
         <source>session.tasks</source>
         <translation>Open Task Manager</translation>
     </message>

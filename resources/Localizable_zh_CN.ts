@@ -275,6 +275,10 @@
         <translation>运行命令…</translation>
     </message>
     <message>
+        <source>session.minimize</source>
+        <translation>最小化窗口</translation>
+    </message>
+    <message>
         <source>session.tasks</source>
         <translation>打开任务管理器</translation>
     </message>
