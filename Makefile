@@ -1,6 +1,6 @@
 # The commands of this project. `make help` lists them.
 .DEFAULT_GOAL := help
-.PHONY: help run test bench pictures format check tidy hooks clean
+.PHONY: help run test bench picture pictures format check tidy hooks clean
 
 help: ## this list
 	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "make %-8s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -25,11 +25,17 @@ bench: ## run the measurements of docs/performance.md
 	@cmake --build --preset bench
 	@bench/run
 
-pictures: ## take the pictures of docs/images anew
+picture: ## show a window, or the panel over a program: make picture SHOW="panel --over geany"; --help lists what can be said
 	@scripts/setup build run demo
+	@cmake --preset release > /dev/null
+	@cmake --build --preset release --target orlamo orlamo_resources
+	@scripts/picture $(SHOW)
+
+pictures: ## take the pictures of docs/images anew
+	@scripts/setup build run demo bench
 	@cmake --preset release
 	@cmake --build --preset release --target orlamo orlamo_resources
-	@scripts/pictures
+	@scripts/picture all --to docs/images
 
 format: ## format all C++ files
 	@scripts/setup test

@@ -218,6 +218,22 @@ class Screen:
         self.display.sync()
 
 
+    def set_wallpaper(self, picture):
+        """Behind all windows, with a compositor and without; a picture in RGB, as large as the screen."""
+        depth = self.display.screen().root_depth
+        wallpaper = self.root.create_pixmap(self.width, self.height, depth)
+        context = wallpaper.create_gc()
+        raw = picture.convert("RGBX").tobytes("raw", "BGRX")
+        rows = 65536 // self.width  # at a time: a request holds 256 KiB
+        for top in range(0, self.height, rows):
+            part = raw[4 * self.width * top:4 * self.width * (top + rows)]
+            wallpaper.put_image(context, 0, top, self.width, len(part) // (4 * self.width), X.ZPixmap, depth, 0, part)
+        self.root.change_attributes(background_pixmap=wallpaper)
+        self.root.clear_area()
+        self.root.change_property(self.display.intern_atom("_XROOTPMAP_ID"), Xatom.PIXMAP, 32, [wallpaper.id])
+        self.display.sync()
+
+
 def near(colour, wanted, tolerance=12):
     return all(abs(a - b) <= tolerance for a, b in zip(colour, wanted))
 

@@ -22,21 +22,32 @@ OPENBOX = """<?xml version="1.0" encoding="UTF-8"?>
   </mouse>
 </openbox_config>
 """
+# Further window managers to look at things under: their words without and, where they have one, with their compositor.
+WINDOW_MANAGERS = {
+    "xfwm4": (["xfwm4", "--compositor=off"], ["xfwm4", "--compositor=on"]),
+    "metacity": (["metacity", "--no-composite"], ["metacity", "--composite"]),
+    "marco": (["marco", "--no-composite"], ["marco", "--composite"]),
+    "kwin_x11": (["env", "KWIN_COMPOSE=N", "kwin_x11"], ["env", "KWIN_COMPOSE=O2", "kwin_x11"]),
+}
 KEY = '<keybind key="{key}"><action name="Execute"><command>{command}</command></action></keybind>'
 
 
 class DesktopSession:
     """Starts in __enter__, ends everything it started in __exit__, and nothing else."""
 
-    def __init__(self, size="1440x900x24", keys=None, server=(), config=None, shipped_keys=False):
+    def __init__(self, size="1440x900x24", keys=None, server=(), config=None, shipped_keys=False,
+                 window_manager="openbox", compositor=False):
         """`keys` maps a key in the window manager's own words ("W-d") to the shell command it runs; `server` holds
         further words of the X server's command line; `config` maps files of the configuration folder to their text.
-        With `shipped_keys` the window manager has those that it comes with, instead of `keys`."""
+        With `shipped_keys` the window manager has those that it comes with, instead of `keys`.
+        `compositor` asks for the window manager's own one, else for picom."""
         self._size = size
         self._keys = keys or {}
         self._server = server
         self._config = config or {}
         self._shipped_keys = shipped_keys
+        self._window_manager = window_manager
+        self._compositor = compositor
         self._started = []
         self.screen = self.session_bus = self.accessibility_bus = None
 
@@ -102,10 +113,17 @@ class DesktopSession:
         self.accessibility_bus = accessible.connect(address)
 
     def _start_window_manager(self):
-        self.start(["openbox", "--sm-disable", *self._window_manager_words()])
+        if self._window_manager in WINDOW_MANAGERS:
+            self.start(WINDOW_MANAGERS[self._window_manager][self._compositor])
+        else:
+            self.start(["openbox", "--sm-disable", *self._openbox_words()])
         wait_until(self.screen.window_manager_runs, PATIENCE, "window manager")
+        if self._compositor and self._window_manager not in WINDOW_MANAGERS:
+            self.start_compositor()
+        if self._compositor:
+            wait_until(self.screen.compositor_runs, PATIENCE, "compositor")
 
-    def _window_manager_words(self):
+    def _openbox_words(self):
         if self._shipped_keys:
             return []
         keys = "".join(KEY.format(key=key, command=command) for key, command in self._keys.items())
