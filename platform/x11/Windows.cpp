@@ -139,7 +139,11 @@ std::optional<xcb_window_t> Windows::activeWindow() {
 }
 
 std::vector<xcb_window_t> Windows::stackedWindows() {
-    if (hasWindowManager()) return numbers(connection_.root(), "_NET_CLIENT_LIST_STACKING");
+    if (hasWindowManager()) {
+        auto stacked = numbers(connection_.root(), "_NET_CLIENT_LIST_STACKING");
+        // Some tell the order only once it has changed for the first time.
+        return stacked.empty() ? numbers(connection_.root(), "_NET_CLIENT_LIST") : stacked;
+    }
     std::vector<xcb_window_t> found;
     for (const xcb_window_t window : children(connection_.root())) {
         if (!windowClass(window).empty() && isViewable(window)) found.push_back(window);

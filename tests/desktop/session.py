@@ -5,6 +5,7 @@ import shutil
 import signal
 import subprocess
 import tempfile
+import unittest
 
 import accessible
 from screen import Screen, wait_until
@@ -36,18 +37,19 @@ class DesktopSession:
     """Starts in __enter__, ends everything it started in __exit__, and nothing else."""
 
     def __init__(self, size="1440x900x24", keys=None, server=(), config=None, shipped_keys=False,
-                 window_manager="openbox", compositor=False):
+                 window_manager=None, compositor=None):
         """`keys` maps a key in the window manager's own words ("W-d") to the shell command it runs; `server` holds
         further words of the X server's command line; `config` maps files of the configuration folder to their text.
         With `shipped_keys` the window manager has those that it comes with, instead of `keys`.
-        `compositor` asks for the window manager's own one, else for picom."""
+        `compositor` asks for the window manager's own one, else for picom. What of these two is not said, the
+        environment says (ORLAMO_WINDOW_MANAGER, ORLAMO_COMPOSITOR), so that the same tests run under all of them."""
         self._size = size
         self._keys = keys or {}
         self._server = server
         self._config = config or {}
         self._shipped_keys = shipped_keys
-        self._window_manager = window_manager
-        self._compositor = compositor
+        self._window_manager = window_manager or os.environ.get("ORLAMO_WINDOW_MANAGER", "openbox")
+        self._compositor = bool(os.environ.get("ORLAMO_COMPOSITOR")) if compositor is None else compositor
         self._started = []
         self.screen = self.session_bus = self.accessibility_bus = None
 
@@ -114,6 +116,8 @@ class DesktopSession:
 
     def _start_window_manager(self):
         if self._window_manager in WINDOW_MANAGERS:
+            if self._keys or self._shipped_keys:
+                raise unittest.SkipTest(f"these keys are given to openbox, not to {self._window_manager}")
             self.start(WINDOW_MANAGERS[self._window_manager][self._compositor])
         else:
             self.start(["openbox", "--sm-disable", *self._openbox_words()])
@@ -132,6 +136,8 @@ class DesktopSession:
         return ["--config-file", str(settings)]
 
     def start_compositor(self):
+        if self.screen.compositor_runs():
+            return
         self.start(["picom", "--config", "/dev/null", "--backend", "xrender"])
         wait_until(self.screen.compositor_runs, PATIENCE, "compositor")
 
