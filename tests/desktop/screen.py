@@ -223,7 +223,7 @@ class Screen:
         wallpaper = self.root.create_pixmap(self.width, self.height, depth)
         context = wallpaper.create_gc()
         raw = picture.convert("RGBX").tobytes("raw", "BGRX")
-        rows = 65536 // self.width  # at a time: a request holds 256 KiB
+        rows = 65000 // self.width  # at a time: a request holds 256 KiB
         for top in range(0, self.height, rows):
             part = raw[4 * self.width * top:4 * self.width * (top + rows)]
             wallpaper.put_image(context, 0, top, self.width, len(part) // (4 * self.width), X.ZPixmap, depth, 0, part)
