@@ -55,6 +55,11 @@ const KeyboardLayout& CoreKeyboard::layout() {
     return *layout_;
 }
 
+const KeyboardLayout& CoreKeyboard::layoutNow() {
+    loadLayout();
+    return *layout_;
+}
+
 void CoreKeyboard::loadLayout() {
     layoutIsStale_ = false;
     xkb_keymap* const keymap =

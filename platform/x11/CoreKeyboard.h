@@ -23,6 +23,8 @@ public:
     bool isAvailable() const { return device_ >= 0; }
     /// As of now; read anew after the user has changed it.
     const KeyboardLayout& layout();
+    /// Asks the server, for whom a change must not slip through that is not heard of yet. Some ten round trips.
+    const KeyboardLayout& layoutNow();
 
     /// The modifiers held now as EventFlags; locks and AltGr are none. EventFlags::noneHeld when none is.
     /// As of the latest change that was received: a drawing pass asks once per cell, too often for a round trip.

@@ -5,6 +5,7 @@
 #include <ranges>
 
 #include "platform/Log.h"
+#include "platform/x11/KeyGrabs.h"
 
 namespace orlamo::x11 {
 
@@ -43,7 +44,10 @@ void EventPoster::press(const KeyboardEvent& event) {
     const ServerGrab grab(connection_);
     const auto held = keyboard_.heldKeys();
     if (!held) return refuse(event, "the X server does not answer");
-    auto plan = planPosting(keyboard_.layout(), *held, event.keyCode, event.flags);
+    auto plan = planPosting(keyboard_.layoutNow(), *held, event.keyCode, event.flags,
+                            [this](GrabKind kind, std::uint8_t key, std::uint8_t realModifiers) {
+                                return isGrabbed(connection_, kind, key, realModifiers);
+                            });
     if (const auto* const refusal = std::get_if<Refusal>(&plan)) return refuse(event, refusal->reason);
 
     posted_ = Posted{event.keyCode, std::get<PostingPlan>(std::move(plan))};

@@ -59,7 +59,7 @@ constexpr KeyRow rows[] = {
     {47, XKB_KEY_period},
     {48, XKB_KEY_Tab, XKB_KEY_ISO_Left_Tab},
     {49, XKB_KEY_space},
-    {50, XKB_KEY_grave},
+    {graveKeyCode, XKB_KEY_grave},
     {51, XKB_KEY_BackSpace},
     {52, XKB_KEY_Return},
     {escapeKeyCode, XKB_KEY_Escape},

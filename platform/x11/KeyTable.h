@@ -6,6 +6,7 @@
 namespace orlamo::x11 {
 
 inline constexpr std::uint16_t escapeKeyCode = 53;
+inline constexpr std::uint16_t graveKeyCode = 50;  // also the key beside 1 on every layout
 
 /// What a key types with nothing held, for a virtual key code. `other` names the same key too: the keypad with and
 /// without Num Lock; 0 when there is none.

@@ -17,6 +17,9 @@ constexpr xkb_keysym_t optionKeys[] = {XKB_KEY_Alt_L, XKB_KEY_Alt_R};
 constexpr xkb_keysym_t controlKeys[] = {XKB_KEY_Super_L, XKB_KEY_Super_R};
 constexpr xkb_keysym_t shiftKeys[] = {XKB_KEY_Shift_L, XKB_KEY_Shift_R};
 
+// Plain, Shift, AltGr, both.
+constexpr xkb_level_index_t levelsOfInterest = 4;
+
 constexpr bool isKeypad(xkb_keysym_t keysym) {
     return keysym >= XKB_KEY_KP_Space && keysym <= XKB_KEY_KP_Equal;
 }
@@ -49,11 +52,8 @@ void KeyboardLayout::findRole(Role& role, std::span<const xkb_keysym_t> keysyms)
 
 std::uint8_t KeyboardLayout::modifiersOfKey(xkb_keycode_t key) const {
     // Pressing it on a scratch keyboard resolves what Alt and Super are here.
-    xkb_state* const scratch = xkb_state_new(keymap_.get());
-    xkb_state_update_key(scratch, key, XKB_KEY_DOWN);
-    const xkb_mod_mask_t held = xkb_state_serialize_mods(scratch, XKB_STATE_MODS_DEPRESSED);
-    xkb_state_unref(scratch);
-    return static_cast<std::uint8_t>(held & 0xff);
+    const std::uint8_t keys[] = {static_cast<std::uint8_t>(key)};
+    return afterPressing(keys, {}, 0).held;
 }
 
 xkb_keysym_t KeyboardLayout::keysym(xkb_keycode_t key, unsigned group, xkb_level_index_t level) const {
@@ -84,16 +84,37 @@ std::optional<std::uint8_t> KeyboardLayout::modifierKey(std::uint64_t eventFlag)
     return role->key;
 }
 
-std::optional<std::uint8_t> KeyboardLayout::keyFor(std::uint16_t virtualKeyCode, unsigned group) const {
+std::vector<KeyPlace> KeyboardLayout::placesOf(std::uint16_t virtualKeyCode) const {
     const KeyRow* const row = keyRow(virtualKeyCode);
-    if (row == nullptr) return std::nullopt;
-    for (const std::uint32_t wanted : {row->keysym, row->other}) {
-        if (wanted == XKB_KEY_NoSymbol) continue;
-        for (xkb_keycode_t key = first_; key <= last_; ++key) {
-            if (keysym(key, group, 0) == wanted) return static_cast<std::uint8_t>(key);
+    if (row == nullptr || keymap_ == nullptr) return {};
+    std::vector<KeyPlace> places;
+    for (unsigned group = 0; group < xkb_keymap_num_layouts(keymap_.get()); ++group) {
+        for (xkb_level_index_t level = 0; level < levelsOfInterest; ++level) {
+            for (xkb_keycode_t key = first_; key <= last_; ++key) {
+                const xkb_keysym_t found = keysym(key, group, level);
+                if (found == XKB_KEY_NoSymbol || (found != row->keysym && found != row->other)) continue;
+                places.push_back({static_cast<std::uint8_t>(key), group, level == 0, level == 1});
+            }
         }
     }
-    return std::nullopt;
+    if (virtualKeyCode == graveKeyCode) {
+        const xkb_keycode_t key = xkb_keymap_key_by_name(keymap_.get(), "TLDE");
+        if (key >= first_ && key <= last_) places.push_back({static_cast<std::uint8_t>(key), 0, false, false});
+    }
+    return places;
+}
+
+ModifierState KeyboardLayout::afterPressing(std::span<const std::uint8_t> keys, ModifierState before,
+                                            std::uint8_t locked) const {
+    if (keymap_ == nullptr) return before;
+    xkb_state* const scratch = xkb_state_new(keymap_.get());
+    xkb_state_update_mask(scratch, before.held, 0, locked, 0, 0, before.group);
+    for (const std::uint8_t key : keys) xkb_state_update_key(scratch, key, XKB_KEY_DOWN);
+    const ModifierState after{
+        static_cast<std::uint8_t>(xkb_state_serialize_mods(scratch, XKB_STATE_MODS_DEPRESSED) & 0xff),
+        xkb_state_serialize_layout(scratch, XKB_STATE_LAYOUT_EFFECTIVE)};
+    xkb_state_unref(scratch);
+    return after;
 }
 
 bool KeyboardLayout::isEscape(std::uint8_t keycode) const {
@@ -105,19 +126,30 @@ bool KeyboardLayout::isEscape(std::uint8_t keycode) const {
     return false;
 }
 
-std::optional<char32_t> KeyboardLayout::baseKeyOfShifted(char32_t character, unsigned group) const {
-    std::optional<char32_t> base;
+KeyboardLayout::Typed KeyboardLayout::typed(char32_t character, unsigned group) const {
+    Typed result;
     for (xkb_keycode_t key = first_; key <= last_; ++key) {
         const xkb_keysym_t plain = keysym(key, group, 0);
         if (isKeypad(plain)) continue;
-        const char32_t typed = xkb_keysym_to_utf32(plain);
-        if (typed == character) return std::nullopt;
-        const xkb_keysym_t shifted = keysym(key, group, 1);
-        if (base || typed == 0 || xkb_keysym_to_utf32(shifted) != character) continue;
-        if (xkb_keysym_to_lower(shifted) == plain) continue;  // a letter's case is no Shift of a shortcut
-        base = typed;
+        for (xkb_level_index_t level = 0; level < levelsOfInterest; ++level) {
+            const xkb_keysym_t found = keysym(key, group, level);
+            if (found == XKB_KEY_NoSymbol || xkb_keysym_to_utf32(found) != character) continue;
+            result.atAll = true;
+            result.isPlain |= level == 0;
+            // A letter's case is no Shift of a shortcut.
+            const bool isShifted = level == 1 && xkb_keysym_to_lower(found) != plain;
+            const char32_t base = isShifted && !result.base ? xkb_keysym_to_utf32(plain) : 0;
+            if (base != 0) result.base = base;
+        }
     }
-    return base;
+    return result;
+}
+
+std::optional<char32_t> KeyboardLayout::baseKeyOfShifted(char32_t character, unsigned group) const {
+    Typed found = typed(character, group);
+    const unsigned groups = keymap_ != nullptr ? xkb_keymap_num_layouts(keymap_.get()) : 0;
+    for (unsigned other = 0; other < groups && !found.atAll; ++other) found = typed(character, other);
+    return found.isPlain ? std::nullopt : found.base;
 }
 
 }  // namespace orlamo::x11

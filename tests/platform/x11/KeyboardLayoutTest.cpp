@@ -3,40 +3,40 @@
 #include <gtest/gtest.h>
 
 #include "platform/EventFlags.h"
+#include "platform/x11/KeyTable.h"
 #include "tests/platform/x11/NamedKeymap.h"
 
 namespace orlamo::x11 {
 namespace {
 
-constexpr std::uint16_t codeA = 0, codeZ = 6, codeQ = 12, codeOne = 18, codeEqual = 24, codeP = 35, codeF4 = 118,
-                        codeUp = 126, codePrint = 105, codeKeypadSeven = 89;
+constexpr std::uint16_t codeA = 0, codeZ = 6, codeQ = 12, codeOne = 18, codeEqual = 24, codeP = 35, codeUp = 126,
+                        codeKeypadSeven = 89;
 
-TEST(KeyboardLayout, AVirtualKeyCodeIsTheKeyThatTypesItInTheGroup) {
+TEST(KeyboardLayout, AVirtualKeyCodeIsWhereAKeyTypesItByGroupThenByWhatIsHeld) {
     const struct {
         const char* layout;
         const char* variant;
-        unsigned group;
         std::uint16_t code;
-        std::optional<std::uint8_t> key;
+        std::vector<KeyPlace> places;
     } rows[] = {
-        {"us", "", 0, codeA, aKey},
-        {"us", "", 0, codeKeypadSeven, keypadSeven},
-        {"de", "", 0, codeZ, yKey},
-        {"de", "", 0, codeEqual, {}},
-        {"fr", "", 0, codeA, qKey},
-        {"fr", "", 0, codeOne, {}},
-        {"us", "dvorak", 0, codeP, std::uint8_t{27}},
-        {"ru", "", 0, codeA, {}},
-        {"ru", "", 0, codeF4, f4Key},
-        {"us,ru", "", 0, codeQ, qKey},
-        {"us,ru", "", 1, codeQ, {}},
-        {"us,ru", "", 1, codeOne, digitOneKey},
-        {"us,ru", "", 1, codeUp, upKey},
-        {"us,ru", "", 1, codePrint, printKey},
+        {"us", "", codeA, {{aKey}}},
+        {"us", "", graveKeyCode, {{aboveTabKey}, {aboveTabKey, 0, false, false}}},
+        {"us", "", codeKeypadSeven, {{keypadSeven}, {keypadSeven, 0, false, true}}},
+        {"de", "", codeZ, {{yKey}}},
+        {"de", "", codeEqual, {{digitZeroKey, 0, false, true}}},
+        {"fr", "", codeA, {{qKey}}},
+        {"fr", "", codeOne, {{digitOneKey, 0, false, true}}},
+        {"us", "dvorak", codeP, {{27}}},
+        {"ru", "", codeA, {}},
+        {"us,ru", "", codeQ, {{qKey}}},
+        {"us,ru", "", codeOne, {{digitOneKey}, {digitOneKey, 1}}},
+        {"us,ru", "", codeUp, {{upKey}, {upKey, 1}}},
+        {"us,de", "", codeZ, {{zKey}, {yKey, 1}}},
+        {"de", "", graveKeyCode, {{aboveTabKey, 0, false, false}}},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(layoutNamed(row.layout, row.variant).keyFor(row.code, row.group), row.key)
-            << row.layout << row.variant << " group " << row.group << " code " << row.code;
+        EXPECT_EQ(layoutNamed(row.layout, row.variant).placesOf(row.code), row.places)
+            << row.layout << row.variant << " code " << row.code;
     }
 }
 
@@ -65,7 +65,9 @@ TEST(KeyboardLayout, ACharacterThatNeedsShiftHasABaseKey) {
     EXPECT_EQ(us.baseKeyOfShifted(U'=', 0), std::nullopt);
     EXPECT_EQ(us.baseKeyOfShifted(U'A', 0), std::nullopt) << "a letter's case";
     EXPECT_EQ(us.baseKeyOfShifted(U'?', 1), U'7');
+    EXPECT_EQ(us.baseKeyOfShifted(U'{', 1), U'[') << "typed in another group only";
     EXPECT_EQ(us.baseKeyOfShifted(U'é', 0), std::nullopt);
+    EXPECT_EQ(layoutNamed("de,us").baseKeyOfShifted(U'{', 0), std::nullopt) << "AltGr types it";
     EXPECT_EQ(layoutNamed("de").baseKeyOfShifted(U'+', 0), std::nullopt) << "has its own key";
     EXPECT_EQ(layoutNamed("fr").baseKeyOfShifted(U'1', 0), U'&');
 }
@@ -79,7 +81,8 @@ TEST(KeyboardLayout, EscapeIsFoundWhereTheUserPutIt) {
 
 TEST(KeyboardLayout, WithoutAKeymapNothingIsTyped) {
     const KeyboardLayout none(nullptr);
-    EXPECT_EQ(none.keyFor(codeA, 0), std::nullopt);
+    EXPECT_TRUE(none.placesOf(codeA).empty());
+    EXPECT_EQ(none.baseKeyOfShifted(U'+', 0), std::nullopt);
     EXPECT_EQ(none.eventFlags(0xff), 0U);
     EXPECT_EQ(none.modifierKey(EventFlags::shift), std::nullopt);
     EXPECT_FALSE(none.isEscape(escapeKey));

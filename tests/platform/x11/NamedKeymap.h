@@ -18,9 +18,9 @@ inline KeyboardLayout layoutNamed(const char* layout, const char* variant = "", 
 }
 
 // Keycodes of a PC keyboard: the place of the key, whatever it types.
-inline constexpr std::uint8_t escapeKey = 9, digitOneKey = 10, qKey = 24, yKey = 29, leftControl = 37, aKey = 38,
-                              leftShift = 50, leftAlt = 64, capsLock = 66, f4Key = 70, keypadSeven = 79, printKey = 107,
-                              upKey = 111, leftSuper = 133;
+inline constexpr std::uint8_t escapeKey = 9, digitOneKey = 10, digitZeroKey = 19, qKey = 24, yKey = 29,
+                              leftControl = 37, aKey = 38, aboveTabKey = 49, leftShift = 50, zKey = 52, leftAlt = 64,
+                              capsLock = 66, keypadSeven = 79, upKey = 111, leftSuper = 133;
 // Real modifier bits as the server reports them.
 inline constexpr std::uint8_t shiftBit = 1, lockBit = 2, controlBit = 4, mod1Bit = 8, mod2Bit = 16, mod4Bit = 64,
                               mod5Bit = 128;

@@ -2,14 +2,26 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/EventFlags.h"
+#include "platform/x11/KeyTable.h"
 #include "tests/platform/x11/NamedKeymap.h"
 
 namespace orlamo::x11 {
 namespace {
 
-constexpr std::uint16_t codeA = 0, codeQ = 12, codeUp = 126;
+constexpr std::uint16_t codeA = 0, codeZ = 6, codeQ = 12, codeOne = 18, codeUp = 126;
 constexpr std::uint64_t functionKey = 0x800000, numericPad = 0x200000;
+
+bool nobodyAsked(GrabKind, std::uint8_t, std::uint8_t) {
+    return false;
+}
+
+std::variant<PostingPlan, Refusal> plan(const KeyboardLayout& layout, const HeldKeys& keyboard, std::uint16_t code,
+                                        std::uint64_t flags) {
+    return planPosting(layout, keyboard, code, flags, nobodyAsked);
+}
 
 TEST(PostingPlan, PressesTheModifiersThatAreNotHeldYet) {
     const KeyboardLayout layout = layoutNamed("us");
@@ -26,9 +38,59 @@ TEST(PostingPlan, PressesTheModifiersThatAreNotHeldYet) {
         {EventFlags::control | functionKey | numericPad, 0, {leftSuper}},
     };
     for (const auto& row : rows) {
-        const auto plan = planPosting(layout, {.held = row.held}, codeUp, row.flags);
-        EXPECT_EQ(plan, (std::variant<PostingPlan, Refusal>(PostingPlan{row.modifiers, upKey}))) << row.flags;
+        EXPECT_EQ(plan(layout, {.held = row.held}, codeUp, row.flags),
+                  (std::variant<PostingPlan, Refusal>(PostingPlan{row.modifiers, upKey})))
+            << row.flags;
     }
+}
+
+TEST(PostingPlan, PressesTheKeyThatTheDesktopAskedFor) {
+    using enum GrabKind;
+    struct Grab {
+        GrabKind kind;
+        std::uint8_t key;
+        std::uint8_t modifiers = mod4Bit;
+        bool operator==(const Grab&) const = default;
+    };
+    const struct {
+        const char* layout;
+        unsigned group;
+        std::uint16_t code;
+        std::vector<Grab> grabs;
+        std::uint8_t key;  // 0: refused
+        bool withShift = false;
+    } rows[] = {
+        {"us,ru", 1, codeQ, {}, qKey},
+        {"us,de", 1, codeZ, {}, yKey},
+        {"us,de", 1, codeZ, {{core, zKey}, {core, yKey}}, zKey},
+        {"us,de", 1, codeZ, {{xinput, zKey}, {xinput, yKey}}, yKey},
+        {"us,de", 1, codeZ, {{xinput, zKey}}, zKey},
+        {"us,de", 1, codeZ, {{core, zKey, mod4Bit | shiftBit}}, yKey},
+        {"fr", 0, codeOne, {}, 0},
+        {"fr", 0, codeOne, {{core, digitOneKey}}, digitOneKey},
+        {"fr", 0, codeOne, {{core, digitOneKey, mod4Bit | shiftBit}}, digitOneKey, true},
+        {"de", 0, graveKeyCode, {}, 0},
+        {"de", 0, graveKeyCode, {{xinput, aboveTabKey}}, aboveTabKey},
+    };
+    for (const auto& row : rows) {
+        const auto made = planPosting(layoutNamed(row.layout), {.group = row.group}, row.code, EventFlags::control,
+                                      [&row](GrabKind kind, std::uint8_t key, std::uint8_t modifiers) {
+                                          return std::ranges::count(row.grabs, Grab{kind, key, modifiers}) != 0;
+                                      });
+        std::vector<std::uint8_t> modifiers{leftSuper};
+        if (row.withShift) modifiers.push_back(leftShift);
+        const auto* const plan = std::get_if<PostingPlan>(&made);
+        EXPECT_EQ(plan != nullptr ? *plan : PostingPlan{},
+                  row.key != 0 ? (PostingPlan{modifiers, row.key}) : PostingPlan{})
+            << row.layout << " group " << row.group << " code " << row.code;
+    }
+}
+
+TEST(PostingPlan, RefusesModifiersThatSwitchTheLayout) {
+    const KeyboardLayout layout = layoutNamed("us,ru", "", "grp:alt_shift_toggle");
+    EXPECT_EQ(plan(layout, {}, codeUp, EventFlags::option | EventFlags::shift),
+              (std::variant<PostingPlan, Refusal>(Refusal{"these modifiers switch the layout"})));
+    EXPECT_TRUE(std::holds_alternative<PostingPlan>(plan(layout, {}, codeUp, EventFlags::option)));
 }
 
 TEST(PostingPlan, RefusesWhatItCouldNotTypeOrWouldDisturb) {
@@ -48,24 +110,23 @@ TEST(PostingPlan, RefusesWhatItCouldNotTypeOrWouldDisturb) {
         {"a Ctrl that is locked", {.locked = controlBit}, codeQ, EventFlags::option},
         {"the key is down", {.down = qDown}, codeQ, EventFlags::command},
         {"the modifier's key is down though it does not count", {.down = controlDown}, codeQ, EventFlags::command},
-        {"a Latin letter in a Cyrillic group", {.group = 1}, codeQ, EventFlags::command},
         {"a code without a key", {}, 10, 0},
         {"a code out of range", {}, 40000, 0},
         {"minus one as it arrives", {}, 65535, 0},
     };
     for (const auto& row : rows) {
-        const auto plan = planPosting(layout, row.keyboard, row.code, row.flags);
-        EXPECT_TRUE(std::holds_alternative<Refusal>(plan)) << row.why;
+        EXPECT_TRUE(std::holds_alternative<Refusal>(plan(layout, row.keyboard, row.code, row.flags))) << row.why;
     }
+    EXPECT_TRUE(std::holds_alternative<Refusal>(plan(layoutNamed("ru"), {}, codeQ, EventFlags::command)));
 }
 
 TEST(PostingPlan, CapsLockAndNumLockDoNotMatter) {
-    const auto plan = planPosting(layoutNamed("us"), {.locked = lockBit | mod2Bit}, codeA, EventFlags::command);
-    EXPECT_EQ(plan, (std::variant<PostingPlan, Refusal>(PostingPlan{{leftControl}, aKey})));
+    EXPECT_EQ(plan(layoutNamed("us"), {.locked = lockBit | mod2Bit}, codeA, EventFlags::command),
+              (std::variant<PostingPlan, Refusal>(PostingPlan{{leftControl}, aKey})));
 }
 
 TEST(PostingPlan, AKeyboardWithoutKeysRefuses) {
-    EXPECT_TRUE(std::holds_alternative<Refusal>(planPosting(KeyboardLayout(nullptr), {}, codeA, 0)));
+    EXPECT_TRUE(std::holds_alternative<Refusal>(plan(KeyboardLayout(nullptr), {}, codeA, 0)));
 }
 
 }  // namespace
