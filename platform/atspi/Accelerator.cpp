@@ -193,9 +193,10 @@ std::optional<Shortcut> parseShortcut(std::string_view text, const BaseKeyOfShif
     }
 
     if (!isAsciiLetter(*character)) {
-        if (const auto base = baseKeyOfShifted(*character); base && keyTextOf(*base)) {
-            character = base;
+        if (const auto base = baseKeyOfShifted(*character)) {
             held.shift = true;
+            // The French 1 stands on the key of "&", which has no text here: it keeps its own.
+            if (keyTextOf(*base)) character = base;
         }
     }
     const auto keyText = keyTextOf(*character);

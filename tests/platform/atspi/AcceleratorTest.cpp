@@ -66,7 +66,9 @@ TEST(Accelerator, TheActiveLayoutSaysWhichCharactersNeedShift) {
     EXPECT_EQ(parseShortcut("Ctrl+=", german), (Shortcut{1, "0", 0}));
     // The key with the plus on it has no row in the key-text table.
     EXPECT_EQ(parseShortcut("Ctrl++", german), (Shortcut{0, "", 0}));
-    EXPECT_EQ(parseShortcut("Ctrl+*", german), (Shortcut{0, "", 0}));
+    EXPECT_EQ(parseShortcut("Ctrl+*", german), (Shortcut{1, "", 0}));
+    const auto french = [](char32_t character) { return character == U'1' ? std::optional(U'&') : std::nullopt; };
+    EXPECT_EQ(parseShortcut("Ctrl+1", french), (Shortcut{1, "1", 0})) << "its base key has no text";
 }
 
 TEST(KeyBinding, GtkKeepsTheShortcutInItsThirdPart) {
