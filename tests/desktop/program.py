@@ -21,9 +21,17 @@ class Log:
 
     def __init__(self, path):
         self.path = path
+        self._read = 0  # bytes, up to the end of a line
+        self._lines = []
 
     def lines(self, since=0):
-        return self.path.read_text(encoding="utf-8", errors="replace").split("\n")[:-1][since:]
+        with self.path.open("rb") as file:
+            file.seek(self._read)
+            new = file.read()
+        new = new[:new.rfind(b"\n") + 1]
+        self._read += len(new)
+        self._lines += new.decode("utf-8", "replace").split("\n")[:-1]
+        return self._lines[since:]
 
     def mark(self):
         """Where the log ends now, for `since`."""

@@ -27,6 +27,7 @@ def wait_until(condition, seconds, what):
 
 class Screen:
     CTRL, ALT, SHIFT, SUPER, ESCAPE = "Control_L", "Alt_L", "Shift_L", "Super_L", "Escape"
+    BACKSPACE = "BackSpace"
 
     def __init__(self, name):
         self.display = display.Display(name)
@@ -38,8 +39,9 @@ class Screen:
         self.display.close()
 
     # Keys and pointer, through the test extension: every program sees them as the user's own.
+    # A number is a keycode: the place of a key, whatever the layout makes of it.
     def _key(self, name, event):
-        code = self.display.keysym_to_keycode(XK.string_to_keysym(name))
+        code = name if isinstance(name, int) else self.display.keysym_to_keycode(XK.string_to_keysym(name))
         xtest.fake_input(self.display, event, code)
         self.display.sync()
 
@@ -179,10 +181,6 @@ class Screen:
         """As a taskbar does."""
         self._ask_window_manager(window, "_NET_ACTIVE_WINDOW", (2, X.CurrentTime, 0, 0, 0))
 
-    def maximize_window(self, window):
-        states = [self.display.intern_atom(f"_NET_WM_STATE_MAXIMIZED_{way}") for way in ("VERT", "HORZ")]
-        self._ask_window_manager(window, "_NET_WM_STATE", (1, *states, 2, 0))
-
     def _ask_window_manager(self, window, message, words):
         event = events.ClientMessage(window=window, client_type=self.display.intern_atom(message),
                                              data=(32, words))
@@ -214,8 +212,13 @@ class Screen:
         return self.picture((x, y, 1, 1)).getpixel((0, 0))
 
     def cover_root(self, red, green, blue):
-        """One colour behind all windows, so that a test knows what a clear corner shows."""
-        self.set_wallpaper(Image.new("RGB", (self.width, self.height), (red, green, blue)))
+        """A window of one colour below all others, so that a test knows what a clear corner shows."""
+        back = self.root.create_window(0, 0, self.width, self.height, 0, X.CopyFromParent, override_redirect=True,
+                                       background_pixel=red << 16 | green << 8 | blue)
+        back.map()
+        back.configure(stack_mode=X.Below)
+        self.display.sync()
+
 
     def set_wallpaper(self, picture):
         """Behind all windows, with a compositor and without; a picture in RGB, as large as the screen."""
