@@ -36,6 +36,8 @@ pictures: ## take the pictures of docs/images anew
 	@cmake --preset release
 	@cmake --build --preset release --target orlamo orlamo_resources
 	@scripts/picture all --to docs/images
+	@scripts/picture panel --over "geany --new-instance" --maximized --hold Ctrl --screen --to docs/images/geany.png
+	@scripts/picture panel --over "kate --startanon" --display 1600x1080 --maximized --screen --to docs/images/kate.png
 
 format: ## format all C++ files
 	@scripts/setup test

@@ -65,10 +65,13 @@ struct GioSettingsSource::Parts {
         auto& made = settings[std::string(schemaId)];
         // Asking for a schema that is missing would end the program.
         auto* const schemas = g_settings_schema_source_get_default();
-        if (schemas == nullptr) return nullptr;
         const Owned<GSettingsSchema> schema(
-            g_settings_schema_source_lookup(schemas, std::string(schemaId).c_str(), TRUE));
-        if (!schema || g_settings_schema_get_path(schema.get()) == nullptr) return nullptr;
+            schemas == nullptr ? nullptr
+                               : g_settings_schema_source_lookup(schemas, std::string(schemaId).c_str(), TRUE));
+        if (!schema || g_settings_schema_get_path(schema.get()) == nullptr) {
+            logLine("The schema " + std::string(schemaId) + " is not installed");
+            return nullptr;
+        }
         made.reset(g_settings_new_full(schema.get(), nullptr, nullptr));
         return made.get();
     }

@@ -181,6 +181,10 @@ class Screen:
         """As a taskbar does."""
         self._ask_window_manager(window, "_NET_ACTIVE_WINDOW", (2, X.CurrentTime, 0, 0, 0))
 
+    def maximize_window(self, window):
+        states = [self.display.intern_atom(f"_NET_WM_STATE_MAXIMIZED_{way}") for way in ("VERT", "HORZ")]
+        self._ask_window_manager(window, "_NET_WM_STATE", (1, *states, 2, 0))
+
     def _ask_window_manager(self, window, message, words):
         event = events.ClientMessage(window=window, client_type=self.display.intern_atom(message),
                                              data=(32, words))
@@ -212,13 +216,8 @@ class Screen:
         return self.picture((x, y, 1, 1)).getpixel((0, 0))
 
     def cover_root(self, red, green, blue):
-        """A window of one colour below all others, so that a test knows what a clear corner shows."""
-        back = self.root.create_window(0, 0, self.width, self.height, 0, X.CopyFromParent, override_redirect=True,
-                                       background_pixel=red << 16 | green << 8 | blue)
-        back.map()
-        back.configure(stack_mode=X.Below)
-        self.display.sync()
-
+        """One colour behind all windows, so that a test knows what a clear corner shows."""
+        self.set_wallpaper(Image.new("RGB", (self.width, self.height), (red, green, blue)))
 
     def set_wallpaper(self, picture):
         """Behind all windows, with a compositor and without; a picture in RGB, as large as the screen."""

@@ -98,7 +98,8 @@ class DesktopSession:
 
     def _start_buses(self):
         reading, writing = os.pipe()
-        self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"], pass_fds=(writing,))
+        self.bus = self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"],
+                              pass_fds=(writing,))
         os.close(writing)
         with os.fdopen(reading) as address:
             self.environment["DBUS_SESSION_BUS_ADDRESS"] = address.readline().strip()
@@ -169,7 +170,11 @@ class DesktopSession:
     def start_service(self, name):
         """What a desktop's session has running under that name on its bus."""
         accessible.start_service(self.session_bus, name)
-        wait_until(lambda: accessible.pid_of(self.session_bus, name), PATIENCE, f"service {name}")
+        return self.wait_for_service(name)
+
+    def wait_for_service(self, name):
+        """The process that has that name on the bus, once there is one."""
+        return wait_until(lambda: accessible.pid_of(self.session_bus, name), PATIENCE, f"service {name}")
 
     def open_editor(self, program, text="one two three\n"):
         """An editor in front with a file of that text, its menus readable."""
