@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <utility>
 
 #include "platform/Log.h"
 
@@ -55,6 +56,7 @@ SessionBus::~SessionBus() = default;
 void SessionBus::restartClock() {
     deadline_ = steady_clock::now() + budget;
     hasFailed_ = false;
+    hasRunOut_ = false;
 }
 
 milliseconds SessionBus::timeLeft() const {
@@ -90,7 +92,7 @@ Owned<GVariant> SessionBus::call(const std::string& service, const std::string& 
     const Owned<GVariant> arguments(g_variant_ref_sink(parameters));
     if (!connect()) return nullptr;
     if (timeLeft() == milliseconds(0)) {
-        logLine(service + " " + method + ": no time left");
+        if (!std::exchange(hasRunOut_, true)) logLine(service + " " + method + ": no time left");
         return nullptr;
     }
     GError* error = nullptr;
@@ -99,6 +101,8 @@ Owned<GVariant> SessionBus::call(const std::string& service, const std::string& 
         G_DBUS_CALL_FLAGS_NO_AUTO_START, static_cast<gint>(timeLeft().count()), nullptr, &error));
     const Owned<GError> owner(error);
     if (!answer) {
+        hasRunOut_ = hasRunOut_ || g_error_matches(error, G_IO_ERROR, G_IO_ERROR_TIMED_OUT) != FALSE;
+        g_dbus_error_strip_remote_error(error);
         logLine(service + " " + method + ": " + error->message);
         return nullptr;
     }

@@ -29,7 +29,8 @@ private:
     GMainContext* context_;
     Owned<GDBusConnection> connection_;
     std::chrono::steady_clock::time_point deadline_;
-    bool hasFailed_ = false;
+    bool hasFailed_ = false;  // to connect
+    bool hasRunOut_ = false;  // of time, and the log says so
 };
 
 }  // namespace orlamo::desktops

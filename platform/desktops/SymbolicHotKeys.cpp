@@ -5,6 +5,7 @@
 #include "platform/desktops/ActionTables.h"
 #include "platform/desktops/Command.h"
 #include "platform/desktops/HotKeys.h"
+#include "platform/desktops/PlasmaApplets.h"
 
 namespace orlamo::desktops {
 
@@ -60,13 +61,27 @@ void addXfce(SettingsSource& source, HotKeys& hotKeys) {
     }
 }
 
+// Plasma 5 names the launcher's action after the number that the applet has in the user's panel; Plasma 6 as here.
+void nameLauncher(std::vector<GlobalShortcut>& shortcuts, SettingsSource& source) {
+    constexpr std::string_view activate = "activate widget ";
+    constexpr std::size_t limit = 1 << 20;
+    std::optional<std::vector<std::string>> launchers;
+    for (auto& shortcut : shortcuts) {
+        if (shortcut.component != "plasmashell" || !shortcut.action.starts_with(activate)) continue;
+        if (!launchers) launchers = plasmaLaunchers(source.file(plasmaAppletsFile, limit).value_or(""));
+        if (std::ranges::find(*launchers, shortcut.action.substr(activate.size())) != launchers->end())
+            shortcut.action = "activate application launcher";
+    }
+}
+
 void addKde(SettingsSource& source, HotKeys& hotKeys) {
     std::vector<std::string_view> components;
     for (const auto& row : kdeRows()) {
         if (std::ranges::find(components, row.component) == components.end()) components.push_back(row.component);
     }
-    const auto shortcuts = source.globalShortcuts(components);
+    auto shortcuts = source.globalShortcuts(components);
     if (!shortcuts) return;
+    nameLauncher(*shortcuts, source);
     for (const auto& row : kdeRows()) {
         for (const auto& shortcut : *shortcuts) {
             if (shortcut.component != row.component || shortcut.action != row.action) continue;

@@ -161,5 +161,19 @@ TEST_F(DesktopPreferencesTest, OfKdeReadTheKeysOfComponentAndAction) {
     EXPECT_EQ(entry("KDE", "19"), "missing");
 }
 
+TEST_F(DesktopPreferencesTest, OfKdeTellTheLauncherByTheNumberOfItsApplet) {
+    source->kde = {{"plasmashell", "activate widget 5", {0x10000045}},
+                   {"plasmashell", "activate widget 3", {0x09000030}},
+                   {"kwin", "activate widget 3", {0x10000046}}};
+    const std::string clock = "[Containments][2][Applets][5]\nplugin=org.kde.plasma.digitalclock\n";
+    EXPECT_EQ(entry("KDE", "160"), "missing");
+    source->files["plasma-org.kde.plasma.desktop-appletsrc"] =
+        clock + "[Containments][2][Applets][3]\nimmutability=1\nplugin=org.kde.plasma.kickoff\n";
+    EXPECT_EQ(entry("KDE", "160"), "on [65535, 122, 524288]");
+    source->files["plasma-org.kde.plasma.desktop-appletsrc"] =
+        clock + "[Containments][2][Applets][3][Shortcuts]\nplugin=org.kde.plasma.kickoff\n[Applets][\n[Applets][]\n";
+    EXPECT_EQ(entry("KDE", "160"), "missing");
+}
+
 }  // namespace
 }  // namespace orlamo::desktops
