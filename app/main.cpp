@@ -108,8 +108,8 @@ int main(int argc, char** argv) {
     const Installed<RunLoop, qt::QtRunLoop> runLoop;
     const Installed<PropertyListParser, plist::LibplistParser> propertyLists;
     const auto resources = qt::resourcesFolder(QApplication::applicationFilePath().toStdString());
-    const Installed<Bundle, qt::QtBundle> bundle(resources, QLocale::system());
-    qt::applyTheme(application);
+    const Installed<Bundle, qt::QtBundle> bundle(resources, QLocale::system().uiLanguages());
+    qt::applyTheme(application, bundle.adapter.language());
     xdg::ActivationService activation(bundle.adapter.bundleIdentifier());
     const xdg::LaunchOutcome outcome = activation.launch();
     if (!goesOn(outcome)) return outcome == xdg::LaunchOutcome::handedOver ? 0 : 1;
@@ -131,7 +131,7 @@ int main(int argc, char** argv) {
     const Installed<SystemPreferences, desktops::DesktopPreferences> preferences([&windowManager] {
         return desktops::WindowManager{windowManager.name(), windowManager.configuration()};
     });
-    const Installed<Keyboard, x11::Keyboard> keyboard(keys);
+    const Installed<Keyboard, x11::Keyboard> keyboard(keys, NSLocalizedString("keyboard.ctrl"));
     const Installed<EventMonitors, x11::EventMonitors> monitors(*connection, keys, windows);
     const Installed<EventPoster, x11::EventPoster> poster(*connection, keys);
     const Installed<WindowEffects, x11::WindowEffects> effects(*connection, windows, focus);

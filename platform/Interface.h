@@ -75,7 +75,7 @@ class Window;
 class InterfaceView {
 public:
     virtual ~InterfaceView() = default;
-    /// Points.
+    /// Points: as in its file, or more where its texts need more.
     virtual Size size() const = 0;
 
     bool wantsLayer = false;

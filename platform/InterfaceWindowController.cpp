@@ -28,14 +28,17 @@ void InterfaceWindowController::showWindow() {
     ownWindow_->makeKeyAndOrderFront();
 }
 
-// A file that does not describe a window still leaves the user one to close. A window never wants more than the screen
-// has beside its title bar and the desktop's panels.
+// A file that does not describe a window still leaves the user one to close. A window shows all of its view, also where
+// the user's language or type needs more room than the file has, but never wants more than the screen has beside its
+// title bar and the desktop's panels.
 WindowDescription InterfaceWindowController::describe() {
     WindowDescription description = InterfaceFiles::shared().window(interfaceName_);
+    const Size view = content_->view().size();
     if (description.contentSize.width <= 0 || description.contentSize.height <= 0) {
-        description.contentSize = content_->view().size();
         description.styleMask = Window::titled | Window::closable;
     }
+    description.contentSize.width = std::max(description.contentSize.width, view.width);
+    description.contentSize.height = std::max(description.contentSize.height, view.height);
     const auto screen = WindowSystem::shared().mainScreen();
     if (!screen) return description;
     const Size room{screen->frame.width - sideRoom, screen->frame.height - barRoom};

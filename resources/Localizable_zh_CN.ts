@@ -233,6 +233,11 @@
         <source>Show Help Menu</source>
         <translation>显示帮助</translation>
     </message>
+    <!-- The name of the Ctrl key in the panel; it and "Alt" must stay below 50 points at 14 -->
+    <message>
+        <source>keyboard.ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
     <!-- The panel: the session menu. These must not be shortened: below 150 points at 13 -->
     <message>
         <source>session.lock</source>

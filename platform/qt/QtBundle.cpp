@@ -1,6 +1,7 @@
 #include "platform/qt/QtBundle.h"
 
 #include <QLocale>
+#include <QStringList>
 #include <fstream>
 #include <iterator>
 #include <vector>
@@ -24,13 +25,11 @@ std::vector<std::uint8_t> contents(const std::filesystem::path& path) {
     return bytes;
 }
 
-// The table is named after one country; its script is read in others too.
-bool readsSimplifiedChinese(const QLocale& locale) {
-    for (const QString& language : locale.uiLanguages()) {
-        const QLocale spoken(language);
-        if (spoken.language() == QLocale::Chinese) return spoken.script() == QLocale::SimplifiedHanScript;
-    }
-    return false;
+// The Chinese table is named after one country; its script is read in others too.
+QString nameOfTable(const QLocale& language) {
+    const bool readsSimplified =
+        language.language() == QLocale::Chinese && language.script() == QLocale::SimplifiedHanScript;
+    return readsSimplified ? "zh_CN" : language.name();
 }
 
 }  // namespace
@@ -42,15 +41,24 @@ std::filesystem::path resourcesFolder(const std::filesystem::path& executable) {
     return executable.parent_path().parent_path() / "share" / "orlamo";
 }
 
-QtBundle::QtBundle(std::filesystem::path folder, const QLocale& locale) : folder_(std::move(folder)) {
+QtBundle::QtBundle(std::filesystem::path folder, const QStringList& languages) : folder_(std::move(folder)) {
     readInformation();
     const QString directory = QString::fromStdString(folder_.string());
-    // Without a table of the user's language the English one speaks alone.
-    [[maybe_unused]] const bool spoken =
-        userLanguage_.load(locale, table, "_", directory) ||
-        (readsSimplifiedChinese(locale) && userLanguage_.load(QString(table) + "_zh_CN", directory));
+    loadUserLanguage(languages, directory);
     if (!english_.load(QString(table) + "_en", directory)) {
         logLine("bundle: no string table in " + folder_.string() + "; texts are shown as their keys");
+    }
+}
+
+// One after the other: the toolkit, given all at once, would take a later one's own table before the first one's
+// without its country. Where no table fits, the English one speaks alone.
+void QtBundle::loadUserLanguage(const QStringList& languages, const QString& directory) {
+    for (const QString& name : languages) {
+        const QLocale language(name);
+        if (language.language() == QLocale::C) continue;  // also what the toolkit makes of one it does not know
+        if (!userLanguage_.load(QString("%1_%2").arg(table, nameOfTable(language)), directory)) continue;
+        language_ = nameOfTable(language);
+        return;
     }
 }
 

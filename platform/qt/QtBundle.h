@@ -15,8 +15,12 @@ std::filesystem::path resourcesFolder(const std::filesystem::path& executable);
 /// installed. A missing or unreadable part is a log line and reads as empty.
 class QtBundle final : public Bundle {
 public:
-    /// The languages as the user prefers them ("zh-Hans-CN"); English stands behind them.
-    QtBundle(std::filesystem::path folder, const QLocale& locale);
+    /// The languages as the user prefers them, the first one first ("de-AT", "zh-Hans-CN"): a table for the country,
+    /// else one for the language alone, else the next language. English stands behind them.
+    QtBundle(std::filesystem::path folder, const QStringList& languages);
+
+    /// The language of the texts, such as "de_AT" or "zh_CN".
+    const QString& language() const { return language_; }
 
     std::string bundleIdentifier() const override;
     PropertyList infoDictionaryValue(std::string_view key) const override;
@@ -25,9 +29,11 @@ public:
 
 private:
     void readInformation();
+    void loadUserLanguage(const QStringList& languages, const QString& directory);
 
     std::filesystem::path folder_;
     PropertyList information_;
+    QString language_ = "en";
     QTranslator userLanguage_;
     QTranslator english_;
     mutable std::unordered_map<std::string, std::string> texts_;  // by key, once looked up

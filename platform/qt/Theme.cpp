@@ -64,10 +64,10 @@ void loadStyleSheet(QApplication& application) {
 
 }  // namespace
 
-void applyTheme(QApplication& application) {
+void applyTheme(QApplication& application, const QString& language) {
     auto* const texts = new QTranslator(&application);
     // Debian splits the toolkit's translations off: without them its few own texts stay English.
-    if (texts->load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    if (texts->load("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(texts);
     }
     QApplication::setStyle(QStyleFactory::create("Fusion"));

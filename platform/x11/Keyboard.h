@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "platform/Keyboard.h"
 #include "platform/x11/CoreKeyboard.h"
 #include "platform/x11/Legends.h"
@@ -8,16 +10,18 @@ namespace orlamo::x11 {
 
 class Keyboard final : public orlamo::Keyboard {
 public:
-    explicit Keyboard(CoreKeyboard& keyboard) : keyboard_(keyboard) {}
+    /// `ctrl` is the name of the Ctrl key in the language of the program's texts, as other programs write it too.
+    Keyboard(CoreKeyboard& keyboard, std::string ctrl) : keyboard_(keyboard), ctrl_(std::move(ctrl)) {}
 
     std::uint64_t modifierFlags() override { return keyboard_.modifierFlags(); }
     std::string modifierLegend(std::string_view modifierText) const override {
-        return std::string(modifierLegendOf(modifierText));
+        return modifierLegendOf(modifierText, ctrl_);
     }
     std::string keyLegend(std::string_view keyText) const override { return std::string(keyLegendOf(keyText)); }
 
 private:
     CoreKeyboard& keyboard_;
+    std::string ctrl_;
 };
 
 }  // namespace orlamo::x11

@@ -34,8 +34,11 @@ std::string_view lookUp(std::span<const Legend> legends, std::string_view text) 
 
 }  // namespace
 
-std::string_view modifierLegendOf(std::string_view modifierText) {
-    return lookUp(modifierLegends, modifierText);
+std::string modifierLegendOf(std::string_view modifierText, std::string_view ctrl) {
+    std::string legend(lookUp(modifierLegends, modifierText));
+    constexpr std::string_view word = "Ctrl";
+    if (const auto at = legend.find(word); at != std::string::npos) legend.replace(at, word.size(), ctrl);
+    return legend;
 }
 
 std::string_view keyLegendOf(std::string_view keyText) {

@@ -85,7 +85,7 @@ public:
     }
 
     // What the files hold.
-    Size viewSize{640, 480};
+    Size viewSize{320, 200};
     std::set<std::string, std::less<>> missing;  // outlets that no file has
     std::map<std::string, WindowDescription, std::less<>> windows{
         {"Preferences", {"Orlamo", {800, 560}, {800, 560}, 15}},

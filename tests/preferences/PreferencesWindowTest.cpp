@@ -140,7 +140,12 @@ TEST(DisablableScrollView, DropsTheWheel) {
     EXPECT_TRUE(scrollView.scrolledBy.empty());
 }
 
-TEST_F(PreferencesTest, TheWindowFitsOnASmallScreenAndNeedsNoDescription) {
+TEST_F(PreferencesTest, TheWindowShowsAllOfItsViewFitsOnASmallScreenAndNeedsNoDescription) {
+    files.viewSize = {790, 610};
+    Preferences tall;
+    tall.showWindow();
+    EXPECT_EQ(tall.window()->frame().size(), (Size{800, 610}));
+
     desktop.windows.main = Screen{{0, 0, 800, 500}, "Small"};
     Preferences small;
     small.showWindow();

@@ -20,4 +20,12 @@ int neededWidth(const QWidget& view) {
     return std::max(view.minimumWidth(), content);
 }
 
+QSize neededSize(QWidget& view) {
+    // The theme decides how large texts are.
+    view.ensurePolished();
+    for (QWidget* const part : view.findChildren<QWidget*>()) part->ensurePolished();
+    const int width = std::max(view.width(), neededWidth(view));
+    return {width, neededHeight(view, width)};
+}
+
 }  // namespace orlamo::qt

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/controls/DocumentSize.h"
+
 namespace orlamo::qt {
 
 QtInterfaceView::QtInterfaceView(std::unique_ptr<QWidget> root, InterfaceOwner& owner)
@@ -21,7 +23,9 @@ QtInterfaceView::~QtInterfaceView() {
 }
 
 Size QtInterfaceView::size() const {
-    return root_ ? Size{double(root_->width()), double(root_->height())} : Size{};
+    if (!root_) return {};
+    const QSize size = root_->size().expandedTo(neededSize(*root_));
+    return {double(size.width()), double(size.height())};
 }
 
 bool QtInterfaceView::eventFilter(QObject*, QEvent* event) {

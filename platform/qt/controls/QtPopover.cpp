@@ -1,6 +1,5 @@
 #include "platform/qt/controls/QtPopover.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "platform/Log.h"
@@ -30,14 +29,10 @@ void QtPopover::showRelativeToRect(const Rect& rect, Control& control, RectEdge 
     InterfaceView& view = controller_->view();
     QWidget& content = native(view).widget();
     if (window_ == nullptr || window_->behavior() != behavior) window_ = std::make_unique<PopoverWindow>(behavior);
-    // The theme decides how large texts are.
-    content.ensurePolished();
-    for (QWidget* const part : content.findChildren<QWidget*>()) part->ensurePolished();
-    const int width = std::max(content.width(), neededWidth(content));
     const QRect place(static_cast<int>(std::lround(rect.x)),
                       static_cast<int>(std::lround(anchor->height() - rect.maxY())),
                       static_cast<int>(std::lround(rect.width)), static_cast<int>(std::lround(rect.height)));
-    window_->showBeside(*anchor, place, preferredEdge, content, QSize(width, neededHeight(content, width)));
+    window_->showBeside(*anchor, place, preferredEdge, content, neededSize(content));
 }
 
 bool QtPopover::isShown() const {

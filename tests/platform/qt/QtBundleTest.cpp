@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QLocale>
+#include <QStringList>
 #include <fstream>
+#include <vector>
 
 #include "tests/doubles/FakeLog.h"
 #include "tests/doubles/FakePropertyListParser.h"
@@ -24,7 +25,7 @@ protected:
 TEST_F(BundleOfFiles, AnswersFromItsInformationAndFiles) {
     parser.result.value =
         PropertyList::Dictionary{{"CFBundleIdentifier", std::string("a.b")}, {"CFBundleShortVersionString", 1.5}};
-    const qt::QtBundle bundle(built, QLocale("en"));
+    const qt::QtBundle bundle(built, {"en"});
     EXPECT_EQ(bundle.bundleIdentifier(), "a.b");
     EXPECT_EQ(bundle.infoDictionaryValue("CFBundleShortVersionString"), PropertyList(1.5));
     EXPECT_EQ(bundle.infoDictionaryValue("other"), PropertyList());
@@ -34,24 +35,40 @@ TEST_F(BundleOfFiles, AnswersFromItsInformationAndFiles) {
     EXPECT_TRUE(log.lines.empty());
 }
 
-TEST_F(BundleOfFiles, SpeaksTheUsersLanguageElseEnglishElseShowsTheKey) {
-    const qt::QtBundle english(built, QLocale("en_GB"));
-    const qt::QtBundle chinese(built, QLocale("zh_CN"));
-    const qt::QtBundle neither(built, QLocale("de_AT"));
-    EXPECT_EQ(english.localizedString("System"), "System");
-    EXPECT_NE(chinese.localizedString("System"), "System");
-    const qt::QtBundle singapore(built, QLocale("zh_Hans_SG"));
-    const qt::QtBundle taiwan(built, QLocale("zh_TW"));
-    EXPECT_EQ(singapore.localizedString("System"), chinese.localizedString("System"));
-    EXPECT_EQ(taiwan.localizedString("System"), "System") << "another script";
-    EXPECT_EQ(neither.localizedString("tab.types.settings"), english.localizedString("tab.types.settings"));
-    EXPECT_NE(english.localizedString("tab.types.settings"), "tab.types.settings");
-    EXPECT_EQ(chinese.localizedString("no.such.key"), "no.such.key");
-    EXPECT_EQ(chinese.localizedString("no.such.key"), "no.such.key");
+// What the toolkit makes of $LANGUAGE, or without it of $LC_ALL, $LC_MESSAGES or $LANG.
+TEST_F(BundleOfFiles, SpeaksTheFirstOfTheUsersLanguagesThatItHas) {
+    struct Case {
+        const char* setting;
+        QStringList languages;
+        const char* spoken;
+    };
+    const std::vector<Case> cases{
+        {"en_GB.UTF-8", {"en-GB", "en-Latn-GB"}, "Search"},
+        {"de_AT.UTF-8", {"de-AT", "de-Latn-AT"}, "Suche"},
+        {"fr_CA.UTF-8", {"fr-CA", "fr-Latn-CA"}, "Recherche"},
+        {"ja_JP.UTF-8", {"ja-JP", "ja-Jpan-JP", "ja"}, "検索"},
+        {"zh_CN.UTF-8", {"zh-CN", "zh-Hans-CN", "zh"}, "搜索"},
+        {"zh_SG.UTF-8", {"zh-SG", "zh-Hans-SG"}, "搜索"},
+        {"zh_TW.UTF-8: another script", {"zh-TW", "zh-Hant-TW"}, "Search"},
+        {"C.UTF-8", {"C"}, "Search"},
+        {"", {}, "Search"},
+        {"xx_YY: no such language", {"xx-YY", "C"}, "Search"},
+        {"ja:de", {"ja", "ja-Jpan-JP", "ja-JP", "de", "de-Latn-DE", "de-DE"}, "検索"},
+        {"it:xx:fr", {"it", "it-Latn-IT", "it-IT", "xx", "C", "fr", "fr-Latn-FR", "fr-FR"}, "Recherche"},
+        {"zh_TW:zh_CN", {"zh-TW", "zh-Hant-TW", "zh-CN", "zh-Hans-CN", "zh"}, "搜索"},
+        {"de_AT:en", {"de-AT", "de-Latn-AT", "en", "en-Latn-US", "en-US"}, "Suche"},
+        {"en_GB:de", {"en-GB", "en-Latn-GB", "de", "de-Latn-DE", "de-DE"}, "Search"},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(qt::QtBundle(built, each.languages).localizedString("Spotlight"), each.spoken) << each.setting;
+    EXPECT_EQ(qt::QtBundle(built, {"zh-SG"}).language(), "zh_CN");
+    EXPECT_EQ(qt::QtBundle(built, {"it"}).language(), "en");
+    const qt::QtBundle chinese(built, {"zh-CN"});
+    for (int time = 0; time < 2; ++time) EXPECT_EQ(chinese.localizedString("no.such.key"), "no.such.key");
 }
 
 TEST_F(BundleOfFiles, SaysWhatIsMissingAndLivesOn) {
-    const qt::QtBundle bundle("/nowhere", QLocale("en"));
+    const qt::QtBundle bundle("/nowhere", {"en"});
     EXPECT_EQ(log.lines.size(), 2U);
     EXPECT_EQ(bundle.bundleIdentifier(), "");
     EXPECT_EQ(bundle.localizedString("System"), "System");

@@ -1,0 +1,127 @@
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <filesystem>
+
+#include "core/SystemShortcuts.h"
+#include "panel/SystemTitle.h"
+#include "permissions/PrivilegeController.h"
+#include "platform/qt/QtBundle.h"
+#include "platform/qt/QtTextMetrics.h"
+#include "platform/qt/TextCache.h"
+#include "platform/qt/Theme.h"
+#include "platform/qt/controls/DocumentSize.h"
+#include "platform/qt/controls/QtInterfaceFiles.h"
+#include "preferences/FreeAppsViewController.h"
+#include "preferences/PopoverViewController.h"
+#include "preferences/SettingsController.h"
+#include "preferences/TutorialViewController.h"
+#include "preferences/UserSupportController.h"
+#include "tests/doubles/FakeDesktop.h"
+#include "tests/platform/qt/controls/WidgetFixture.h"
+
+namespace orlamo {
+namespace {
+
+std::vector<std::string> languages() {
+    std::vector<std::string> all;
+    for (const auto& file : std::filesystem::directory_iterator(ORLAMO_RESOURCES)) {
+        const std::string name = file.path().stem();
+        if (file.path().extension() == ".ts") all.push_back(name.substr(name.find('_') + 1));
+    }
+    return all;
+}
+
+// Points.
+constexpr int leastPageWidth = 640;  // in the preferences at their smallest, beside a scroll bar
+constexpr int tabWidth = 124;        // in the list of the pages, beside its icon
+constexpr int panelSize = 13;
+constexpr double panelTitleWidth = 150;
+
+/// The shipped texts in the shipped windows, in a font that is wide among the common ones.
+class TextsFit : public WidgetFixture, public testing::WithParamInterface<std::string> {
+protected:
+    TextsFit() { qt::applyTheme(*qApp, bundle.language()); }
+    ~TextsFit() override {
+        qApp->setStyleSheet({});
+        QApplication::setPalette(QPalette());
+        QApplication::setFont(fontBefore);
+    }
+
+    void expectWhole(ViewController& controller, int width) {
+        QWidget& root = qt::native(controller.view()).widget();
+        root.resize(width, root.height());
+        root.resize(qt::neededSize(root));
+        EXPECT_EQ(root.width(), width) << controller.interfaceName();
+        root.show();
+        turnEventLoop();
+        for (QWidget* const widget : root.findChildren<QWidget*>()) {
+            const auto* const label = qobject_cast<QLabel*>(widget);
+            const bool isControl = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QComboBox*>(widget);
+            if (!widget->isVisibleTo(&root) || (!isControl && (label == nullptr || label->text().isEmpty()))) continue;
+            QSize needed = widget->sizeHint();
+            if (label != nullptr && label->wordWrap())
+                needed = {label->minimumSizeHint().width(), label->heightForWidth(label->width())};
+            const bool isWhole = widget->size().expandedTo(needed) == widget->size() &&
+                                 widget->parentWidget()->rect().contains(widget->geometry());
+            EXPECT_TRUE(isWhole) << controller.interfaceName() << ": " << widget->objectName().toStdString() << " has "
+                                 << widget->width() << "x" << widget->height() << ", needs " << needed.width() << "x"
+                                 << needed.height();
+            ++measured;
+        }
+        root.hide();
+    }
+
+    const QFont fontBefore = QApplication::font();
+    FakeDesktop desktop;
+    qt::QtBundle bundle{qt::resourcesFolder(std::filesystem::read_symlink("/proc/self/exe")),
+                        {QString::fromStdString(GetParam())}};
+    Service<Bundle>::Installation bundleInstallation{bundle};
+    qt::QtInterfaceFiles files;
+    Service<InterfaceFiles>::Installation installation{files};
+    int measured = 0;
+};
+
+TEST_P(TextsFit, IntoEveryView) {
+    for (const int points : {10, 12}) {
+        QApplication::setFont(QFont("DejaVu Sans", points));
+        SettingsController settings;
+        TutorialViewController tutorial;
+        FreeAppsViewController applications;
+        UserSupportController support;
+        for (ViewController* const page :
+             {static_cast<ViewController*>(&settings), static_cast<ViewController*>(&tutorial),
+              static_cast<ViewController*>(&applications), static_cast<ViewController*>(&support)})
+            expectWhole(*page, leastPageWidth);
+        PopoverViewController popover;
+        expectWhole(popover, static_cast<int>(popover.view().size().width));
+        PrivilegeController permission;
+        expectWhole(permission, static_cast<int>(permission.view().size().width));
+        EXPECT_LE(permission.view().size().width, 560);
+    }
+    const QFontMetrics metrics(QFont("DejaVu Sans", 10));
+    for (const char* const tab : {"settings", "tutorial", "free_apps", "about"}) {
+        const std::string title = NSLocalizedString(std::string("tab.types.") + tab);
+        EXPECT_LE(metrics.horizontalAdvance(QString::fromStdString(title)), tabWidth) << title;
+    }
+    EXPECT_GT(measured, 100);
+}
+
+TEST_P(TextsFit, IntoThePanelsCells) {
+    QApplication::setFont(QFont("DejaVu Sans", 10));
+    qt::TextCache texts;
+    qt::QtTextMetrics metrics(texts);
+    const auto expectShort = [&metrics](const std::string& key) {
+        EXPECT_LE(metrics.measure(NSLocalizedString(key), panelSize).width, panelTitleWidth) << NSLocalizedString(key);
+    };
+    for (const std::string_view row : systemShortcutIDTable)
+        expectShort(splitSystemTitle(row.substr(row.find(':') + 1)).label);
+    for (const char* const key : {"lock", "log_out", "shut_down", "overview", "show_desktop", "home", "files",
+                                  "terminal", "settings", "run", "minimize", "tasks"})
+        expectShort(std::string("session.") + key);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfEveryLanguage, TextsFit, testing::ValuesIn(languages()));
+
+}  // namespace
+}  // namespace orlamo
