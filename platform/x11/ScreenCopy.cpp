@@ -83,19 +83,23 @@ std::optional<Layout> pictureLayout(const Connection& connection) {
     return std::nullopt;
 }
 
-/// The screen's size as it is now; the one of the connection's start is outdated after a change.
-PixelRect clippedToScreen(Connection& connection, const PixelRect& area) {
-    const auto screen = connection.reply(xcb_get_geometry_reply, xcb_get_geometry(connection.xcb(), connection.root()));
-    if (!screen) return {};
+/// The size as it is now; the screen's one of the connection's start is outdated after a change.
+PixelRect clippedToWindow(Connection& connection, xcb_window_t window, const PixelRect& area) {
+    const auto geometry = connection.reply(xcb_get_geometry_reply, xcb_get_geometry(connection.xcb(), window));
+    if (!geometry) return {};
     const int left = std::max(area.x, 0);
     const int top = std::max(area.y, 0);
-    return {left, top, std::min(area.x + area.width, static_cast<int>(screen->width)) - left,
-            std::min(area.y + area.height, static_cast<int>(screen->height)) - top};
+    return {left, top, std::min(area.x + area.width, static_cast<int>(geometry->width)) - left,
+            std::min(area.y + area.height, static_cast<int>(geometry->height)) - top};
 }
 
 }  // namespace
 
 std::optional<PixelImage> copyScreenArea(Connection& connection, const PixelRect& area) {
+    return copyWindowArea(connection, connection.root(), area);
+}
+
+std::optional<PixelImage> copyWindowArea(Connection& connection, xcb_window_t window, const PixelRect& area) {
     if (area.width <= 0 || area.height <= 0) return std::nullopt;
     const auto layout = pictureLayout(connection);
     if (!layout) {
@@ -104,7 +108,7 @@ std::optional<PixelImage> copyScreenArea(Connection& connection, const PixelRect
     }
     PixelImage image{area.width, area.height, {}};
     image.pixels.assign(static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height), 0xff000000);
-    const PixelRect seen = clippedToScreen(connection, area);
+    const PixelRect seen = clippedToWindow(connection, window, area);
     if (!connection.isAlive()) return std::nullopt;
     if (seen.width <= 0 || seen.height <= 0) return image;
 
@@ -117,7 +121,7 @@ std::optional<PixelImage> copyScreenArea(Connection& connection, const PixelRect
         const SharedMemory memory(connection, stride * height);
         if (memory.isAttached() &&
             connection.reply(xcb_shm_get_image_reply,
-                             xcb_shm_get_image(connection.xcb(), connection.root(), x, y, width, height, allPlanes,
+                             xcb_shm_get_image(connection.xcb(), window, x, y, width, height, allPlanes,
                                                XCB_IMAGE_FORMAT_Z_PIXMAP, memory.segment(), 0)) &&
             convertPixels(memory.bytes(), stride, layout->format, seen, area.x, area.y, image)) {
             return image;
@@ -125,7 +129,7 @@ std::optional<PixelImage> copyScreenArea(Connection& connection, const PixelRect
     }
     const auto picture = connection.reply(
         xcb_get_image_reply,
-        xcb_get_image(connection.xcb(), XCB_IMAGE_FORMAT_Z_PIXMAP, connection.root(), x, y, width, height, allPlanes));
+        xcb_get_image(connection.xcb(), XCB_IMAGE_FORMAT_Z_PIXMAP, window, x, y, width, height, allPlanes));
     if (!picture) return std::nullopt;
     const auto* const bytes = reinterpret_cast<const std::byte*>(xcb_get_image_data(picture.get()));
     const auto length = static_cast<std::size_t>(xcb_get_image_data_length(picture.get()));

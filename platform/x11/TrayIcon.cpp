@@ -182,16 +182,20 @@ void TrayIcon::handleReparent(const xcb_reparent_notify_event_t& event) {
     connection_.flush();
 }
 
+/// The panel there. It paints the background of a window of its own depth, which is right before a compositor has shown
+/// any of it; behind one with alpha there is only what the screen shows.
+std::optional<PixelImage> TrayIcon::behind() {
+    if (!visual_.hasAlpha) return copyWindowArea(connection_, window_, {0, 0, width_, height_});
+    const auto place =
+        connection_.reply(xcb_translate_coordinates_reply,
+                          xcb_translate_coordinates(connection_.xcb(), window_, connection_.root(), 0, 0));
+    if (!place) return std::nullopt;
+    return copyScreenArea(connection_, {place->dst_x, place->dst_y, width_, height_});
+}
+
 std::uint32_t TrayIcon::ink() {
     const auto colors = Windows(connection_).numbers(tray_, "_NET_SYSTEM_TRAY_COLORS");
-    if (!background_) {
-        const auto place =
-            connection_.reply(xcb_translate_coordinates_reply,
-                              xcb_translate_coordinates(connection_.xcb(), window_, connection_.root(), 0, 0));
-        const auto picture = place ? copyScreenArea(connection_, {place->dst_x, place->dst_y, width_, height_})
-                                   : std::optional<PixelImage>();
-        background_ = picture.value_or(PixelImage());
-    }
+    if (!background_) background_ = behind().value_or(PixelImage());
     return trayInk(colors, *background_);
 }
 

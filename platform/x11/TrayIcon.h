@@ -41,6 +41,7 @@ private:
     void requestDock();
     void handle(const xcb_generic_event_t& event);
     void handleReparent(const xcb_reparent_notify_event_t& event);
+    std::optional<PixelImage> behind();
     std::uint32_t ink();
 
     Connection& connection_;

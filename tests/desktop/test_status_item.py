@@ -31,6 +31,16 @@ class StatusItem(DesktopTest):
         wait_until(lambda: len(self.screen.picture(area).getcolors(1 << 16)) > 1, SOON, "painted icon")
         return self.screen.picture(area)
 
+    def assert_colours(self):
+        self.start_program()
+        for background, colors, ink in ((0x202020, None, (230, 230, 230)), (0xf0f0f0, None, (46, 46, 46)),
+                                        (0x202020, (90, 200, 120), (90, 200, 120))):
+            tray = XEmbedTray(self.session, background, colors).start()
+            try:
+                self.assertGreater(count_near(self.picture_of_icon(tray), ink), 60, hex(background))
+            finally:
+                tray.stop()
+
     def test_a_panel_on_the_bus_has_the_icon_and_its_four_entries_which_do_their_work(self):
         host = self.start_host()
         program = self.start_program()
@@ -88,14 +98,7 @@ class StatusItem(DesktopTest):
         self.wait_until_gone(host.items_of)
 
     def test_the_icon_in_a_notification_area_has_the_colour_that_its_panel_needs(self):
-        program = self.start_program()
-        for background, colors, ink in ((0x202020, None, (230, 230, 230)), (0xf0f0f0, None, (46, 46, 46)),
-                                        (0x202020, (90, 200, 120), (90, 200, 120))):
-            tray = XEmbedTray(self.session, background, colors).start()
-            try:
-                self.assertGreater(count_near(self.picture_of_icon(tray), ink), 60, hex(background))
-            finally:
-                tray.stop()
+        self.assert_colours()
 
     def test_hiding_the_icon_takes_it_out_and_showing_it_brings_it_back(self):
         host = self.start_host()
@@ -105,3 +108,11 @@ class StatusItem(DesktopTest):
         self.wait_until_gone(host.items_of)
         program.write_settings({**program.settings(), "isHiddenStatusBar": False})
         host.wait_for_item(program.pid, SOON)
+
+
+class CompositedTray(DesktopTest):
+    session_arguments = {"compositor": True}
+    picture_of_icon = StatusItem.picture_of_icon
+
+    def test_the_icon_has_that_colour_too_before_a_compositor_has_shown_the_panel(self):
+        StatusItem.assert_colours(self)
