@@ -52,11 +52,14 @@ void addXfce(SettingsSource& source, HotKeys& hotKeys) {
             if (action == row.action) hotKeys.add(row.id, bindingOfAccelerator(accelerator));
         }
     }
-    const auto commandBindings = xfceBindings(*properties, "/commands");
+    std::vector<std::pair<std::string, Command>> commands;  // by accelerator; split once for all rows
+    for (const auto& [accelerator, text] : xfceBindings(*properties, "/commands")) {
+        commands.emplace_back(accelerator, commandOf(text));
+    }
     for (const auto& row : commandRows()) {
         hotKeys.addAction(row.id);
-        for (const auto& [accelerator, text] : commandBindings) {
-            if (runs(commandOf(text), row)) hotKeys.add(row.id, bindingOfAccelerator(accelerator));
+        for (const auto& [accelerator, command] : commands) {
+            if (runs(command, row)) hotKeys.add(row.id, bindingOfAccelerator(accelerator));
         }
     }
 }
