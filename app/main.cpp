@@ -133,7 +133,7 @@ int main(int argc, char** argv) {
     });
     const Installed<Keyboard, x11::Keyboard> keyboard(keys, NSLocalizedString("keyboard.ctrl"));
     const Installed<EventMonitors, x11::EventMonitors> monitors(*connection, keys, windows);
-    const Installed<EventPoster, x11::EventPoster> poster(*connection, keys);
+    const Installed<EventPoster, x11::EventPoster> poster(*connection, keys, windowManager);
     const Installed<WindowEffects, x11::WindowEffects> effects(*connection, windows, focus);
     Addresses addresses;
     const Installed<Workspace, x11::Workspace> workspace(

@@ -41,13 +41,14 @@ void EventPoster::press(const KeyboardEvent& event) {
     if (!connection_.extensions().xtest || !keyboard_.isAvailable()) {
         return refuse(event, "the X server does not let programs type");
     }
+    const DesktopGrabs desktop{
+        .isGrabbed = [this](GrabKind kind, std::uint8_t key,
+                            std::uint8_t realModifiers) { return isGrabbed(connection_, kind, key, realModifiers); },
+        .addsShift = windowManager_.name() == "KWin"};
     const ServerGrab grab(connection_);
     const auto held = keyboard_.heldKeys();
     if (!held) return refuse(event, "the X server does not answer");
-    auto plan = planPosting(keyboard_.layoutNow(), *held, event.keyCode, event.flags,
-                            [this](GrabKind kind, std::uint8_t key, std::uint8_t realModifiers) {
-                                return isGrabbed(connection_, kind, key, realModifiers);
-                            });
+    auto plan = planPosting(keyboard_.layoutNow(), *held, event.keyCode, event.flags, desktop);
     if (const auto* const refusal = std::get_if<Refusal>(&plan)) return refuse(event, refusal->reason);
 
     posted_ = Posted{event.keyCode, std::get<PostingPlan>(std::move(plan))};

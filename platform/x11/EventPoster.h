@@ -6,13 +6,15 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/CoreKeyboard.h"
 #include "platform/x11/PostingPlan.h"
+#include "platform/x11/WindowManager.h"
 
 namespace orlamo::x11 {
 
 /// Types combinations through XTEST, which window managers take for the user's own keys.
 class EventPoster final : public orlamo::EventPoster {
 public:
-    EventPoster(Connection& connection, CoreKeyboard& keyboard) : connection_(connection), keyboard_(keyboard) {}
+    EventPoster(Connection& connection, CoreKeyboard& keyboard, WindowManager& windowManager)
+        : connection_(connection), keyboard_(keyboard), windowManager_(windowManager) {}
 
     /// A key-down presses the modifiers that are not held yet and the key; the key-up of the same code releases just
     /// those. A key-up without its key-down does nothing.
@@ -34,6 +36,7 @@ private:
 
     Connection& connection_;
     CoreKeyboard& keyboard_;
+    WindowManager& windowManager_;
     std::optional<Posted> posted_;
 };
 

@@ -59,16 +59,22 @@ std::optional<KeyPlace> usualPlace(const std::vector<KeyPlace>& places, unsigned
     return found != places.end() ? std::optional(*found) : std::nullopt;
 }
 
-/// The first of these that another program takes its combination from.
-std::optional<KeyPlace> grabbedPlace(const std::vector<KeyPlace>& places, const std::optional<KeyPlace>& usual,
-                                     std::uint8_t bits, const IsGrabbed& isGrabbed) {
+struct Candidate {
+    std::uint8_t key = 0;
+    const Modifiers* modifiers = nullptr;
+    bool operator==(const Candidate&) const = default;
+};
+
+/// The one of these that another program has asked for.
+std::optional<Candidate> grabbedOne(const std::vector<Candidate>& candidates, const std::optional<Candidate>& usual,
+                                    const IsGrabbed& isGrabbed) {
     const auto firstOf = [&](GrabKind kind) {
-        const auto found =
-            std::ranges::find_if(places, [&](const KeyPlace& place) { return isGrabbed(kind, place.key, bits); });
-        return found != places.end() ? std::optional(*found) : std::nullopt;
+        const auto found = std::ranges::find_if(
+            candidates, [&](const Candidate& each) { return isGrabbed(kind, each.key, each.modifiers->bits); });
+        return found != candidates.end() ? std::optional(*found) : std::nullopt;
     };
-    if (const auto place = firstOf(GrabKind::core)) return place;
-    if (usual && isGrabbed(GrabKind::xinput, usual->key, bits)) return usual;
+    if (const auto found = firstOf(GrabKind::core)) return found;
+    if (usual && isGrabbed(GrabKind::xinput, usual->key, usual->modifiers->bits)) return usual;
     return firstOf(GrabKind::xinput);
 }
 
@@ -76,33 +82,29 @@ std::optional<KeyPlace> grabbedPlace(const std::vector<KeyPlace>& places, const 
 
 std::variant<PostingPlan, Refusal> planPosting(const KeyboardLayout& layout, const HeldKeys& keyboard,
                                                std::uint16_t virtualKeyCode, std::uint64_t flags,
-                                               const IsGrabbed& isGrabbed) {
+                                               const DesktopGrabs& desktop) {
     if (keyRow(virtualKeyCode) == nullptr) return Refusal{"no key has that code"};
     const auto places = layout.placesOf(virtualKeyCode);
     if (places.empty()) return Refusal{"no layout of this keyboard types that key"};
 
-    auto modifiers = planModifiers(layout, keyboard, flags);
+    const auto modifiers = planModifiers(layout, keyboard, flags);
     if (const auto* const refusal = std::get_if<Refusal>(&modifiers)) return *refusal;
-    auto held = std::get<Modifiers>(std::move(modifiers));
+    const auto forShifted = desktop.addsShift ? planModifiers(layout, keyboard, flags | EventFlags::shift) : modifiers;
 
-    auto place = usualPlace(places, keyboard.group);
-    const auto isUsualKey = [&place](const KeyPlace& each) { return place && each.key == place->key; };
-    if (!std::ranges::all_of(places, isUsualKey)) {
-        if (const auto grabbed = grabbedPlace(places, place, held.bits, isGrabbed)) place = grabbed;
+    std::vector<Candidate> candidates;
+    for (const KeyPlace& place : places) {
+        const auto* const held = std::get_if<Modifiers>(place.needsShift ? &forShifted : &modifiers);
+        if (held != nullptr) candidates.push_back({place.key, held});
     }
-    if (!place) {
-        // KWin takes a character that needs Shift together with Shift.
-        std::vector<KeyPlace> shifted;
-        std::ranges::copy_if(places, std::back_inserter(shifted), &KeyPlace::needsShift);
-        auto modifiersAndShift = planModifiers(layout, keyboard, flags | EventFlags::shift);
-        if (auto* const more = std::get_if<Modifiers>(&modifiersAndShift)) {
-            place = grabbedPlace(shifted, {}, more->bits, isGrabbed);
-            if (place) held = std::move(*more);
-        }
+    std::optional<Candidate> chosen;
+    if (const auto usual = usualPlace(places, keyboard.group)) chosen = {usual->key, &std::get<Modifiers>(modifiers)};
+    // With one candidate there is nothing to ask.
+    if (!chosen || std::ranges::count(candidates, *chosen) != std::ssize(candidates)) {
+        if (const auto grabbed = grabbedOne(candidates, chosen, desktop.isGrabbed)) chosen = grabbed;
     }
-    if (!place) return Refusal{"no layout types that key by itself, and no program asked for it"};
-    if (keyboard.down[place->key]) return Refusal{"the key is down already"};
-    return PostingPlan{std::move(held.keys), place->key};
+    if (!chosen) return Refusal{"no layout types that key by itself, and no program asked for it"};
+    if (keyboard.down[chosen->key]) return Refusal{"the key is down already"};
+    return PostingPlan{chosen->modifiers->keys, chosen->key};
 }
 
 }  // namespace orlamo::x11

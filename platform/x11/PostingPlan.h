@@ -32,6 +32,14 @@ enum class GrabKind { core, xinput };
 /// Whether another program has asked for this key with exactly these real modifiers.
 using IsGrabbed = std::function<bool(GrabKind kind, std::uint8_t key, std::uint8_t realModifiers)>;
 
+/// What the desktop has asked for.
+struct DesktopGrabs {
+    IsGrabbed isGrabbed;
+    /// It asks for a key that types its symbol with Shift only together with Shift, as KWin does. The others take
+    /// Super and the key of 7 for Super+/ on a German keyboard.
+    bool addsShift = false;
+};
+
 /// Why nothing is posted.
 struct Refusal {
     std::string reason;
@@ -50,6 +58,6 @@ struct Refusal {
 /// beyond the combination cannot be helped.
 std::variant<PostingPlan, Refusal> planPosting(const KeyboardLayout& layout, const HeldKeys& keyboard,
                                                std::uint16_t virtualKeyCode, std::uint64_t flags,
-                                               const IsGrabbed& isGrabbed);
+                                               const DesktopGrabs& desktop);
 
 }  // namespace orlamo::x11

@@ -20,7 +20,7 @@ bool nobodyAsked(GrabKind, std::uint8_t, std::uint8_t) {
 
 std::variant<PostingPlan, Refusal> plan(const KeyboardLayout& layout, const HeldKeys& keyboard, std::uint16_t code,
                                         std::uint64_t flags) {
-    return planPosting(layout, keyboard, code, flags, nobodyAsked);
+    return planPosting(layout, keyboard, code, flags, {.isGrabbed = nobodyAsked});
 }
 
 TEST(PostingPlan, PressesTheModifiersThatAreNotHeldYet) {
@@ -58,7 +58,7 @@ TEST(PostingPlan, PressesTheKeyThatTheDesktopAskedFor) {
         std::uint16_t code;
         std::vector<Grab> grabs;
         std::uint8_t key;  // 0: refused
-        bool withShift = false;
+        bool addsShift = false;
     } rows[] = {
         {"us,ru", 1, codeQ, {}, qKey},
         {"us,de", 1, codeZ, {}, yKey},
@@ -68,17 +68,21 @@ TEST(PostingPlan, PressesTheKeyThatTheDesktopAskedFor) {
         {"us,de", 1, codeZ, {{core, zKey, mod4Bit | shiftBit}}, yKey},
         {"fr", 0, codeOne, {}, 0},
         {"fr", 0, codeOne, {{core, digitOneKey}}, digitOneKey},
-        {"fr", 0, codeOne, {{core, digitOneKey, mod4Bit | shiftBit}}, digitOneKey, true},
+        {"fr", 0, codeOne, {{core, digitOneKey, mod4Bit | shiftBit}}, 0},
+        {"fr", 0, codeOne, {{core, digitOneKey}}, 0, true},
+        {"fr", 0, codeOne, {{core, digitOneKey}, {core, digitOneKey, mod4Bit | shiftBit}}, digitOneKey, true},
+        {"us,de", 1, codeZ, {{core, zKey}, {core, yKey}}, zKey, true},
         {"de", 0, graveKeyCode, {}, 0},
         {"de", 0, graveKeyCode, {{xinput, aboveTabKey}}, aboveTabKey},
     };
     for (const auto& row : rows) {
+        const auto isGrabbed = [&row](GrabKind kind, std::uint8_t key, std::uint8_t modifiers) {
+            return std::ranges::count(row.grabs, Grab{kind, key, modifiers}) != 0;
+        };
         const auto made = planPosting(layoutNamed(row.layout), {.group = row.group}, row.code, EventFlags::control,
-                                      [&row](GrabKind kind, std::uint8_t key, std::uint8_t modifiers) {
-                                          return std::ranges::count(row.grabs, Grab{kind, key, modifiers}) != 0;
-                                      });
+                                      {isGrabbed, row.addsShift});
         std::vector<std::uint8_t> modifiers{leftSuper};
-        if (row.withShift) modifiers.push_back(leftShift);
+        if (row.addsShift && row.code == codeOne) modifiers.push_back(leftShift);
         const auto* const plan = std::get_if<PostingPlan>(&made);
         EXPECT_EQ(plan != nullptr ? *plan : PostingPlan{},
                   row.key != 0 ? (PostingPlan{modifiers, row.key}) : PostingPlan{})
