@@ -4,7 +4,9 @@
 #include <QMessageBox>
 #include <QSessionManager>
 #include <filesystem>
+#include <span>
 
+#include "app/CommandLine.h"
 #include "platform/appcast/UpdaterController.h"
 #include "platform/atspi/Accessibility.h"
 #include "platform/atspi/AccessibilitySwitch.h"
@@ -27,6 +29,7 @@
 #include "platform/x11/EventMonitors.h"
 #include "platform/x11/EventPoster.h"
 #include "platform/x11/Keyboard.h"
+#include "platform/x11/StartupNotification.h"
 #include "platform/x11/WindowEffects.h"
 #include "platform/x11/WindowManager.h"
 #include "platform/x11/Workspace.h"
@@ -38,6 +41,8 @@
 using namespace orlamo;
 
 namespace {
+
+constexpr auto preferencesAction = "preferences";  // as the desktop entry names it
 
 /// Keeps an adapter and makes it the shared one of its interface.
 template <class Interface, class Adapter>
@@ -76,6 +81,11 @@ private:
     atspi::AccessibilitySwitch accessibilitySwitch_;
 };
 
+/// Some launchers on X11 know their startup ids by the newer name only.
+const std::string& startupId(const xdg::ActivationTicket& ticket) {
+    return ticket.startupId.empty() ? ticket.activationToken : ticket.startupId;
+}
+
 /// Whether this launch is to go on as the program. A launch while one runs in this session is that one's business.
 bool goesOn(xdg::LaunchOutcome outcome) {
     if (outcome == xdg::LaunchOutcome::handedOver) return false;
@@ -95,7 +105,15 @@ bool goesOn(xdg::LaunchOutcome outcome) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (const auto status = answerCommandLine(std::span(argv, argc).subspan(argc > 0 ? 1 : 0))) return *status;
     const Installed<Log, qt::StandardOutputLog> log;
+    std::string error;
+    // The toolkit would not say it and go, but crash.
+    if (!x11::Connection::isPossible(error)) {
+        logLine("no X display: " + error);
+        return 1;
+    }
+    const auto ticket = xdg::ActivationTicket::ofThisLaunch();
     // The panel, its focus and its shape are those of an X session, also where another toolkit platform could start.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
     QApplication application(argc, argv);
@@ -110,15 +128,14 @@ int main(int argc, char** argv) {
     const auto resources = qt::resourcesFolder(QApplication::applicationFilePath().toStdString());
     const Installed<Bundle, qt::QtBundle> bundle(resources, QLocale::system().uiLanguages());
     qt::applyTheme(application, bundle.adapter.language());
-    xdg::ActivationService activation(bundle.adapter.bundleIdentifier());
-    const xdg::LaunchOutcome outcome = activation.launch();
+    xdg::ActivationService activation(bundle.adapter.bundleIdentifier(), {preferencesAction});
+    const xdg::LaunchOutcome outcome = activation.launch(ticket);
     if (!goesOn(outcome)) return outcome == xdg::LaunchOutcome::handedOver ? 0 : 1;
     const Installed<UserDefaults, qt::JsonUserDefaults> defaults(qt::settingsPath());
 
     const Installed<LoginItems, xdg::Autostart> loginItems(
         xdg::StartedProgram{.executable = QApplication::applicationFilePath().toStdString()});
 
-    std::string error;
     const auto connection = x11::Connection::open(error);
     if (connection == nullptr) {
         logLine("no X display: " + error);
@@ -164,7 +181,13 @@ int main(int argc, char** argv) {
     delegate.applicationWillFinishLaunching();
     activation.answerWaiting();
     delegate.applicationDidFinishLaunching();
-    activation.setHandler(
-        [&delegate] { delegate.applicationShouldHandleReopen(delegate.preferences.window()->isVisible()); });
+    activation.setHandler([&delegate, &connection](const xdg::Activation& wanted) {
+        if (wanted.action == preferencesAction) {
+            delegate.openSettings();
+        } else {
+            delegate.applicationShouldHandleReopen(delegate.preferences.window()->isVisible());
+        }
+        x11::completeStartup(*connection, startupId(wanted.ticket));
+    });
     return QApplication::exec();
 }

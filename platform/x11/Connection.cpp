@@ -25,19 +25,30 @@ constexpr std::uint8_t responseType(const xcb_generic_event_t& event) {
     return event.response_type & 0x7f;
 }
 
+xcb_connection_t* connected(std::string& error, const char* display, int& screenNumber) {
+    xcb_connection_t* const xcb = xcb_connect(display, &screenNumber);
+    if (xcb_connection_has_error(xcb) == 0 && screenOf(xcb, screenNumber) != nullptr) return xcb;
+    const char* const environment = std::getenv("DISPLAY");
+    const char* const name = display != nullptr ? display : environment;
+    error = name != nullptr ? std::string("cannot connect to the X server ") + name : "DISPLAY is not set";
+    xcb_disconnect(xcb);
+    return nullptr;
+}
+
 }  // namespace
 
 std::unique_ptr<Connection> Connection::open(std::string& error, const char* display) {
     int screenNumber = 0;
-    xcb_connection_t* const xcb = xcb_connect(display, &screenNumber);
-    if (xcb_connection_has_error(xcb) != 0 || screenOf(xcb, screenNumber) == nullptr) {
-        const char* const environment = std::getenv("DISPLAY");
-        const char* const name = display != nullptr ? display : environment;
-        error = name != nullptr ? std::string("cannot connect to the X server ") + name : "DISPLAY is not set";
-        xcb_disconnect(xcb);
-        return nullptr;
-    }
+    xcb_connection_t* const xcb = connected(error, display, screenNumber);
+    if (xcb == nullptr) return nullptr;
     return std::unique_ptr<Connection>(new Connection(xcb, screenNumber));
+}
+
+bool Connection::isPossible(std::string& error) {
+    int screenNumber = 0;
+    xcb_connection_t* const xcb = connected(error, nullptr, screenNumber);
+    if (xcb != nullptr) xcb_disconnect(xcb);
+    return xcb != nullptr;
 }
 
 Connection::Connection(xcb_connection_t* xcb, int screenNumber)

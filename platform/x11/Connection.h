@@ -45,6 +45,8 @@ public:
 
     /// The display of that name, or of the environment when it is null. On failure null, and `error` says why.
     static std::unique_ptr<Connection> open(std::string& error, const char* display = nullptr);
+    /// Whether the environment's display lets this program in; else `error` says why not. Needs no run loop.
+    static bool isPossible(std::string& error);
     ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;

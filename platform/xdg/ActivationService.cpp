@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
 #include <cstring>
 #include <utility>
 
@@ -20,15 +19,7 @@ using std::chrono::steady_clock;
 
 constexpr const char* interface = "org.freedesktop.Application";
 constexpr microseconds patience = std::chrono::seconds(1);
-
-/// What a launcher left for the program to prove that the user wants its window in front.
-constexpr struct {
-    const char* variable;
-    const char* key;
-} launchData[] = {
-    {"DESKTOP_STARTUP_ID", "desktop-startup-id"},
-    {"XDG_ACTIVATION_TOKEN", "activation-token"},
-};
+constexpr std::size_t longestShown = 100;  // bytes of a name from outside
 
 std::string objectPath(const std::string& name) {
     std::string path = "/" + name;
@@ -42,23 +33,22 @@ std::uint64_t left(steady_clock::time_point deadline) {
     return static_cast<std::uint64_t>(std::max(time, microseconds(1)).count());
 }
 
-bool isPrintable(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return c > ' ' && c < 0x7f; });
+/// What an error to the caller and a line in the log say alike.
+int refuse(sd_bus_message* message, const char* error, const std::string& why) {
+    logLine("activation: " + why);
+    return sd_bus_reply_method_errorf(message, error, "%s", why.c_str());
 }
 
-int appendLaunchData(sd_bus_message* message) {
-    if (const int result = sd_bus_message_open_container(message, 'a', "{sv}"); result < 0) return result;
-    for (const auto& [variable, key] : launchData) {
-        const char* const value = std::getenv(variable);
-        if (value == nullptr || *value == '\0' || !isPrintable(value)) continue;
-        if (const int result = sd_bus_message_append(message, "{sv}", key, "s", value); result < 0) return result;
-    }
-    return sd_bus_message_close_container(message);
+/// A method of ours as the bus's library calls it.
+template <int (ActivationService::*Answer)(sd_bus_message*)>
+int call(sd_bus_message* message, void* data, sd_bus_error*) {
+    return (static_cast<ActivationService*>(data)->*Answer)(message);
 }
 
 }  // namespace
 
-ActivationService::ActivationService(std::string name) : name_(std::move(name)), path_(objectPath(name_)) {}
+ActivationService::ActivationService(std::string name, std::vector<std::string> actions)
+    : name_(std::move(name)), path_(objectPath(name_)), actions_(std::move(actions)) {}
 
 ActivationService::~ActivationService() {
     close();
@@ -88,12 +78,12 @@ bool ActivationService::connect() {
         if (const int waited = sd_bus_wait(bus_, left(deadline)); waited < 0 && waited != -EINTR) return failed(waited);
     }
     sd_bus_set_method_call_timeout(bus_, static_cast<std::uint64_t>(patience.count()));
-    constexpr auto activated = [](sd_bus_message* message, void* data, sd_bus_error*) {
-        return static_cast<ActivationService*>(data)->answer(message);
-    };
+    constexpr auto anybody = SD_BUS_VTABLE_UNPRIVILEGED;
     static const sd_bus_vtable methods[] = {
         SD_BUS_VTABLE_START(0),
-        SD_BUS_METHOD("Activate", "a{sv}", "", activated, SD_BUS_VTABLE_UNPRIVILEGED),
+        SD_BUS_METHOD("Activate", "a{sv}", "", call<&ActivationService::answerActivate>, anybody),
+        SD_BUS_METHOD("Open", "asa{sv}", "", call<&ActivationService::answerOpen>, anybody),
+        SD_BUS_METHOD("ActivateAction", "sava{sv}", "", call<&ActivationService::answerActivateAction>, anybody),
         SD_BUS_VTABLE_END,
     };
     // Before the name is ours, so that nobody finds the name without the object.
@@ -101,20 +91,46 @@ bool ActivationService::connect() {
     return result >= 0 || failed(result);
 }
 
-/// The caller has its answer before the handler does anything that takes time.
-int ActivationService::answer(sd_bus_message* message) {
-    RunLoop::shared().asyncAfter(0, [this, alive = std::weak_ptr<bool>(isAlive_)] {
-        if (!alive.expired() && handler_) handler_();
+int ActivationService::answerActivate(sd_bus_message* message) {
+    return accept(message, {});
+}
+
+int ActivationService::answerOpen(sd_bus_message* message) {
+    return refuse(message, SD_BUS_ERROR_NOT_SUPPORTED, "no files are opened");
+}
+
+int ActivationService::answerActivateAction(sd_bus_message* message) {
+    const char* action = nullptr;
+    int result = sd_bus_message_read(message, "s", &action);
+    if (result >= 0) result = sd_bus_message_enter_container(message, 'a', "v");
+    if (result < 0) return result;
+    const std::string name = std::string(action).substr(0, longestShown);
+    if (std::ranges::find(actions_, action) == actions_.end()) {
+        return refuse(message, SD_BUS_ERROR_INVALID_ARGS, "no action " + name);
+    }
+    if (sd_bus_message_at_end(message, 0) == 0) {
+        return refuse(message, SD_BUS_ERROR_INVALID_ARGS, "the action " + name + " takes no parameters");
+    }
+    result = sd_bus_message_exit_container(message);
+    return result < 0 ? result : accept(message, {.action = action, .ticket = {}});
+}
+
+/// The message stands before its platform data. The caller has its answer before the handler does anything that takes
+/// time.
+int ActivationService::accept(sd_bus_message* message, Activation activation) {
+    if (const int result = read(message, activation.ticket); result < 0) return result;
+    RunLoop::shared().asyncAfter(0, [this, activation, alive = std::weak_ptr<bool>(isAlive_)] {
+        if (!alive.expired() && handler_) handler_(activation);
     });
     return sd_bus_reply_method_return(message, "");
 }
 
 /// Negative: the error. The bus must not start the program for this call: it has just asked for the name itself.
-int ActivationService::handOver() {
+int ActivationService::handOver(const ActivationTicket& ticket) {
     sd_bus_message* message = nullptr;
     int result = sd_bus_message_new_method_call(bus_, &message, name_.c_str(), path_.c_str(), interface, "Activate");
     if (result >= 0) result = sd_bus_message_set_auto_start(message, 0);
-    if (result >= 0) result = appendLaunchData(message);
+    if (result >= 0) result = append(message, ticket);
     sd_bus_error error = SD_BUS_ERROR_NULL;
     if (result >= 0) {
         result = sd_bus_call(bus_, message, static_cast<std::uint64_t>(patience.count()), &error, nullptr);
@@ -132,7 +148,7 @@ int ActivationService::handOver() {
     return isGone ? -ESRCH : result;
 }
 
-LaunchOutcome ActivationService::launch() {
+LaunchOutcome ActivationService::launch(const ActivationTicket& ticket) {
     if (!connect()) {
         close();
         return LaunchOutcome::noBus;
@@ -147,7 +163,7 @@ LaunchOutcome ActivationService::launch() {
             close();
             return LaunchOutcome::noBus;
         }
-        const int handed = handOver();
+        const int handed = handOver(ticket);
         if (handed == -ESRCH && steady_clock::now() < deadline) continue;
         close();
         return handed >= 0 ? LaunchOutcome::handedOver : LaunchOutcome::noAnswer;

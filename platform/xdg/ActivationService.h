@@ -3,8 +3,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/RunLoop.h"
+#include "platform/xdg/ActivationTicket.h"
 
 struct sd_bus;
 struct sd_bus_message;
@@ -19,21 +21,28 @@ enum class LaunchOutcome {
     noBus,       // there is no session bus to ask; one log line says why
 };
 
-/// One running program per session bus: owns the program's name there, and lets a second launch activate it through
-/// org.freedesktop.Application. Activate is all that it answers; what else that interface has is an error to the
-/// caller. Main thread only.
+/// One wish of the desktop or of a second launch.
+struct Activation {
+    std::string action;  // empty: the program itself
+    ActivationTicket ticket;
+};
+
+/// One running program per session bus: owns the program's name there, and lets the desktop and a second launch
+/// activate it through org.freedesktop.Application. To open files, an unknown action, and an action with parameters are
+/// an error to the caller and a line in the log. Main thread only.
 class ActivationService {
 public:
-    using Handler = std::function<void()>;
+    using Handler = std::function<void(const Activation&)>;
 
-    explicit ActivationService(std::string name);
+    /// The name on the bus, and the actions that it knows; none of them takes parameters.
+    ActivationService(std::string name, std::vector<std::string> actions);
     ~ActivationService();
     ActivationService(const ActivationService&) = delete;
     ActivationService& operator=(const ActivationService&) = delete;
 
     /// Before anything else of the program starts; needs no run loop. Waits at most 1 s for the bus and 1 s for the
-    /// running program, which gets what the desktop gave this launch (startup id, activation token).
-    LaunchOutcome launch();
+    /// running program, which gets this launch's ticket.
+    LaunchOutcome launch(const ActivationTicket& ticket);
     /// From now on, with the run loop: called for each activation, also for those that came in since launch(). Only
     /// after an outcome `first`; otherwise it is never called.
     void setHandler(Handler handler);
@@ -43,12 +52,16 @@ public:
 
 private:
     bool connect();
-    int handOver();
-    int answer(sd_bus_message* message);
+    int handOver(const ActivationTicket& ticket);
+    int answerActivate(sd_bus_message* message);
+    int answerActivateAction(sd_bus_message* message);
+    int answerOpen(sd_bus_message* message);
+    int accept(sd_bus_message* message, Activation activation);
     void close();
 
     std::string name_;
     std::string path_;  // the name as an object path
+    std::vector<std::string> actions_;
     sd_bus* bus_ = nullptr;
     Handler handler_;
     std::unique_ptr<RunLoop::Handle> watch_;

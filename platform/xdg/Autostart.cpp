@@ -108,6 +108,7 @@ std::string desktopEntry(const StartedProgram& program) {
            "Type=Application\n"
            "Name=" +
            escapedValue(program.name) + "\nIcon=" + escapedValue(program.icon) +
+           "\nTryExec=" + escapedValue(program.executable.string()) +
            "\nExec=" + escapedValue(quotedArgument(program.executable.string())) +
            "\nTerminal=false\n"
            "NoDisplay=true\n"

@@ -2,15 +2,17 @@
 import signal
 import subprocess
 import time
+from contextlib import closing
 
 import accessible
 from case import PROGRAM, DesktopTest
 from gi.repository import Gio, GLib
 from screen import wait_until
 from session import PATIENCE
+from Xlib import X, display
 
 NAME, PATH, INTERFACE = "app.orlamo.Orlamo", "/app/orlamo/Orlamo", "org.freedesktop.Application"
-ACTIVATION = "Activate"
+ACTIVATION, ACTION = "Activate", "ActivateAction"
 ENDED = 0
 
 
@@ -48,12 +50,39 @@ class SecondLaunch(DesktopTest):
         interfaces = {found.name: [method.name for method in found.methods]
                       for found in Gio.DBusNodeInfo.new_for_xml(introspected).interfaces
                       if not found.name.startswith("org.freedesktop.DBus.")}
-        self.assertEqual({INTERFACE: [ACTIVATION]}, interfaces)
-        for method, arguments in (("Open", GLib.Variant("(asa{sv})", (["file:///etc/passwd"], {}))),
-                                  ("ActivateAction", GLib.Variant("(sava{sv})", ("quit", [], {})))):
-            self.assertIsNone(accessible.call(bus, NAME, PATH, INTERFACE, method, arguments), method)
-        self.assertEqual((), accessible.call(bus, NAME, PATH, INTERFACE, ACTIVATION, GLib.Variant("(a{sv})", ({},))))
-        program.wait_for_preferences(2)
+        self.assertEqual({INTERFACE: [ACTIVATION, "Open", "ActivateAction"]}, interfaces)
+        one = [GLib.Variant("s", "one")]
+        for method, kinds, arguments, complaint in (
+                ("Open", "(asa{sv})", (["file:///etc/passwd"], {}), "activation: no files are opened"),
+                (ACTION, "(sava{sv})", ("quit", [], {}), "activation: no action quit"),
+                (ACTION, "(sava{sv})", ("preferences", one, {}), "activation: the action preferences takes no")):
+            since = program.log.mark()
+            self.assertIsNone(accessible.call(bus, NAME, PATH, INTERFACE, method, GLib.Variant(kinds, arguments)))
+            program.log.wait_for(complaint, since)
+        self.assertIsNone(program.preferences())
+        for method, kinds, arguments in ((ACTIVATION, "(a{sv})", ({"any": GLib.Variant("ai", [1])},)),
+                                         (ACTION, "(sava{sv})", ("preferences", [], {}))):
+            self.assertEqual((), accessible.call(bus, NAME, PATH, INTERFACE, method, GLib.Variant(kinds, arguments)))
+            program.wait_for_preferences(2)
+            program.close_preferences()
+
+    def test_a_launcher_hears_that_what_it_launched_again_is_there(self):
+        program = self.start_program()
+        with closing(display.Display(self.session.environment["DISPLAY"])) as launcher:
+            launcher.screen().root.change_attributes(event_mask=X.PropertyChangeMask)
+            launcher.sync()
+            self.session.start([PROGRAM], environment={"DESKTOP_STARTUP_ID": "launcher-1-of-this-test_TIME7"})
+            program.wait_for_preferences(PATIENCE)
+            heard = bytearray()
+
+            def is_over():
+                while launcher.pending_events():
+                    event = launcher.next_event()
+                    if event.type & 0x7F == X.ClientMessage and event.data[0] == 8:
+                        heard.extend(event.data[1])
+                return b'remove: ID="launcher-1-of-this-test_TIME7"\0' in heard
+
+            wait_until(is_over, PATIENCE, "end of the start")
 
     def test_without_a_session_bus_the_program_says_so_and_runs(self):
         nowhere = {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.session.folder}/no-bus"}

@@ -43,7 +43,8 @@ TEST_F(AutostartTest, WritesAWholeEntryAndNothingElse) {
     EXPECT_TRUE(items.SMLoginItemSetEnabled(identifier, true));
     EXPECT_EQ(read(file),
               "[Desktop Entry]\nType=Application\nName=Orlamo\nIcon=app.orlamo.Orlamo\n"
-              "Exec=\"/opt/or lamo/orlamo\"\nTerminal=false\nNoDisplay=true\nX-GNOME-Autostart-enabled=true\n");
+              "TryExec=/opt/or lamo/orlamo\nExec=\"/opt/or "
+              "lamo/orlamo\"\nTerminal=false\nNoDisplay=true\nX-GNOME-Autostart-enabled=true\n");
     EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 1);
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
 }
