@@ -1,9 +1,9 @@
 # The commands of this project. `make help` lists them.
 .DEFAULT_GOAL := help
-.PHONY: help run test bench picture pictures format check tidy hooks clean
+.PHONY: help run test package package-test bench picture pictures format check tidy hooks clean
 
 help: ## this list
-	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "make %-8s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
+	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "make %-12s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
 
 run: ## build and start Orlamo; without a display, show it on one of its own
 	@scripts/setup build run
@@ -16,6 +16,14 @@ test: ## build everything and run all tests
 	@cmake --preset release
 	@cmake --build --preset release
 	@ctest --preset release -j $$(nproc)
+
+package: ## build the Debian package, and have it judged
+	@scripts/setup build package
+	@scripts/package
+
+package-test: package ## install, start and remove the package in a Debian with nothing on it (as root)
+	@scripts/setup package-test
+	@tests/package/fresh_system
 
 bench: ## run the measurements of docs/performance.md
 	@scripts/setup build run demo test bench

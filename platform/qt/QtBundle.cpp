@@ -13,6 +13,7 @@ namespace orlamo::qt {
 namespace {
 
 constexpr const char* table = "Localizable";
+constexpr const char* information = "Info.plist";
 constexpr std::size_t largestInformation = 1U << 20;
 constexpr std::size_t mostTextsKept = 4096;
 
@@ -37,8 +38,9 @@ QString nameOfTable(const QLocale& language) {
 std::filesystem::path resourcesFolder(const std::filesystem::path& executable) {
     const std::filesystem::path built = executable.parent_path() / "resources";
     std::error_code error;
-    if (std::filesystem::is_directory(built, error)) return built;
-    return executable.parent_path().parent_path() / "share" / "orlamo";
+    // Other programs' folders of that name do not count.
+    if (std::filesystem::is_regular_file(built / information, error)) return built;
+    return (executable.parent_path() / ORLAMO_RESOURCES_FROM_PROGRAM).lexically_normal();
 }
 
 QtBundle::QtBundle(std::filesystem::path folder, const QStringList& languages) : folder_(std::move(folder)) {
@@ -63,7 +65,7 @@ void QtBundle::loadUserLanguage(const QStringList& languages, const QString& dir
 }
 
 void QtBundle::readInformation() {
-    const std::filesystem::path path = folder_ / "Info.plist";
+    const std::filesystem::path path = folder_ / information;
     const std::vector<std::uint8_t> bytes = contents(path);
     if (bytes.empty()) {
         logLine("bundle: cannot read " + path.string());

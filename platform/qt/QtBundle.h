@@ -8,7 +8,8 @@
 
 namespace orlamo::qt {
 
-/// The folder of the program's resources: beside the executable when it was just built, else where it is installed.
+/// The folder of the program's resources: beside the executable when it was just built, else where an installation has
+/// it, seen from the executable's own place.
 std::filesystem::path resourcesFolder(const std::filesystem::path& executable);
 
 /// A folder of resources with Info.plist and one Localizable_<language>.qm per language. The PropertyListParser must be
