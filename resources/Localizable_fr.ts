@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>settings.session_menu.description</source>
-        <translation>Ajoute les touches pour verrouiller l’écran, se déconnecter, etc., si ce bureau en propose.</translation>
+        <translation>Ajoute les touches de verrouillage, de déconnexion, etc., si ce bureau en a.</translation>
     </message>
     <message>
         <source>settings.session_menu.unknown_desktop</source>

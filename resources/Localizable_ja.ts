@@ -694,7 +694,7 @@
     </message>
     <message>
         <source>permission.reason</source>
-        <translation>アプリのショートカットを一覧にするため、Orlamo はこのデスクトップのアクセシビリティサービスを通じてメニューを読み取りますが、このサービスは現在オフになっています。読み取った内容がこのコンピューターの外に出ることはありません。</translation>
+        <translation>アプリのショートカットを一覧にするため、Orlamo はこのデスクトップのアクセシビリティサービスを通じてメニューを読み取りますが、このサービスは現在オフになっています。読み取った内容は外部に送信されません。</translation>
     </message>
     <message>
         <source>accessibility.permission.gained</source>

@@ -10,6 +10,7 @@ ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 MENU_BAR, TEXT, CHECK_BOX = 34, 61, 7  # AtspiRole
 ACTIVE, CHECKED, FOCUSED, SENSITIVE, SHOWING = 1, 4, 12, 24, 25  # AtspiStateType
+BUTTON = 43  # AtspiRole
 
 
 def connect(address):

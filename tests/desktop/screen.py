@@ -181,6 +181,10 @@ class Screen:
         """As a taskbar does."""
         self._ask_window_manager(window, "_NET_ACTIVE_WINDOW", (2, X.CurrentTime, 0, 0, 0))
 
+    def resize_window(self, window, width, height):
+        window.configure(width=width, height=height)
+        self.display.sync()
+
     def maximize_window(self, window):
         states = [self.display.intern_atom(f"_NET_WM_STATE_MAXIMIZED_{way}") for way in ("VERT", "HORZ")]
         self._ask_window_manager(window, "_NET_WM_STATE", (1, *states, 2, 0))
