@@ -1,4 +1,5 @@
 """A private desktop for one test: X server, session bus, accessibility bus, window manager, home folder."""
+import ctypes
 import os
 import pathlib
 import shutil
@@ -31,6 +32,15 @@ WINDOW_MANAGERS = {
     "kwin_x11": (["env", "KWIN_COMPOSE=N", "kwin_x11"], ["env", "KWIN_COMPOSE=O2", "kwin_x11"]),
 }
 KEY = '<keybind key="{key}"><action name="Execute"><command>{command}</command></action></keybind>'
+
+
+PR_SET_PDEATHSIG = 1
+LIBC = ctypes.CDLL(None)
+
+
+def end_with_the_test():
+    """In a new process: it ends also with a test that is killed."""
+    LIBC.prctl(PR_SET_PDEATHSIG, signal.SIGKILL)
 
 
 class DesktopSession:
@@ -147,7 +157,7 @@ class DesktopSession:
         """A process in a group of its own; it ends with the session."""
         process = subprocess.Popen(words, env={**self.environment, **(environment or {})}, cwd=self.folder,
                                    stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
-                                   start_new_session=True, pass_fds=pass_fds)
+                                   start_new_session=True, pass_fds=pass_fds, preexec_fn=end_with_the_test)
         self._started.append(process)
         return process
 
