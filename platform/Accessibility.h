@@ -49,6 +49,14 @@ inline bool CFBooleanGetValue(const AXValue& value) {
 /// Whether the system may ask the user.
 enum class kAXTrustedCheckOptionPrompt { no, yes };
 
+/// Whether the desktop has a menu of the session now, or why not.
+enum class SessionMenuState {
+    present,
+    unknownDesktop,  // what this desktop can do about the session is not known
+    notBound,        // too few of its commands have keys
+    noService,       // a service that performs one of them is missing, or nobody answers what the keys are
+};
+
 /// Other applications' elements. A menu bar has one child per menu: a first one for the session, a second one titled
 /// with the application's name, then the application's own. Each has one child, a menu without a title, which holds the
 /// items; an item that opens a submenu holds that submenu's items itself.
@@ -72,9 +80,11 @@ public:
                                                    std::vector<AXUIElementRef>& values) = 0;
     /// "AXPress".
     virtual AXError AXUIElementPerformAction(const AXUIElementRef& element, std::string_view action) = 0;
-    /// Whether menu bars begin with that first menu of the session: one heading and four items. Else they begin with
-    /// the application's own.
+    /// Whether the menu bar that was read last begins with that first menu of the session: one heading and four items.
+    /// Else that one has no items.
     virtual bool hasSessionMenu() const = 0;
+    /// What a reading would find now.
+    virtual SessionMenuState sessionMenuState() = 0;
     /// Whether this process may read other applications, without asking the user.
     virtual bool AXIsProcessTrusted() = 0;
     /// The same answer; this desktop has no question of its own to prompt the user with.

@@ -4,6 +4,7 @@
 
 #include "platform/Accessibility.h"
 #include "platform/Application.h"
+#include "platform/Bundle.h"
 #include "platform/Log.h"
 #include "preferences/InterfaceClasses.h"
 #include "preferences/PopoverViewController.h"
@@ -22,6 +23,20 @@ bool isOn(const CheckBox& box) {
     return box.state() == ControlState::on;
 }
 
+std::string_view sessionMenuTextKey(SessionMenuState state) {
+    switch (state) {
+        case SessionMenuState::present:
+            break;
+        case SessionMenuState::unknownDesktop:
+            return "settings.session_menu.unknown_desktop";
+        case SessionMenuState::notBound:
+            return "settings.session_menu.not_bound";
+        case SessionMenuState::noService:
+            return "settings.session_menu.no_service";
+    }
+    return "settings.session_menu.description";
+}
+
 void show(const Outlet<CheckBox>& outlet, bool on) {
     if (const auto box = outlet.lock()) box->setState(on ? ControlState::on : ControlState::off);
 }
@@ -38,6 +53,7 @@ std::vector<OutletBinding> SettingsController::outlets() {
             {"hideStatusBarIconCheckBox", &hideStatusBarIconCheckBox},
             {"launchOnLoginCheckBox", &launchOnLoginCheckBox},
             {"isContainsAppleMenuBox", &isContainsAppleMenuBox},
+            {"isContainsAppleMenuBoxDescription", &isContainsAppleMenuBoxDescription},
             {"isBlurStyleCheckBox", &isBlurStyleCheckBox},
             {"isAutomaticCheckUpdateBox", &isAutomaticCheckUpdateBox},
             {"modifierKeyPopUpBtn", &modifierKeyPopUpBtn},
@@ -71,8 +87,6 @@ void SettingsController::viewDidLoad() {
     show(launchOnLoginCheckBox, defaults.boolForKey(SettingsKeys::isLaunchAtLoginEnabled));
     show(isBlurStyleCheckBox, defaults.boolForKey(SettingsKeys::isBlurStyle));
     show(isContainsAppleMenuBox, defaults.boolForKey(SettingsKeys::isContainsAppleMenu));
-    const auto sessionMenu = isContainsAppleMenuBox.lock();
-    if (sessionMenu != nullptr && !Accessibility::shared().hasSessionMenu()) sessionMenu->setEnabled(false);
     show(isAutomaticCheckUpdateBox, defaults.boolForKey(SettingsKeys::isEnableAutomaticCheckUpdate));
     if (const auto popUp = modifierKeyPopUpBtn.lock()) {
         const auto stored = defaults.stringForKey(SettingsKeys::doubleModifierKey);
@@ -83,6 +97,17 @@ void SettingsController::viewDidLoad() {
 void SettingsController::viewWillAppear() {
     ViewController::viewWillAppear();
     logLine("SettingsController 即将加入窗口时");
+    showSessionMenu();
+}
+
+void SettingsController::showSessionMenu() {
+    const auto box = isContainsAppleMenuBox.lock();
+    if (box == nullptr) return;
+    const SessionMenuState state = Accessibility::shared().sessionMenuState();
+    box->setEnabled(state == SessionMenuState::present);
+    if (const auto text = isContainsAppleMenuBoxDescription.lock()) {
+        text->setStringValue(NSLocalizedString(sessionMenuTextKey(state)));
+    }
 }
 
 void SettingsController::showApplicationDockIcons(CheckBox& sender) {

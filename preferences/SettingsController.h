@@ -21,6 +21,8 @@ public:
     Outlet<CheckBox> hideStatusBarIconCheckBox;
     Outlet<CheckBox> launchOnLoginCheckBox;
     Outlet<CheckBox> isContainsAppleMenuBox;
+    /// Below it: what it does, or why it is disabled.
+    Outlet<TextField> isContainsAppleMenuBoxDescription;
     Outlet<CheckBox> isBlurStyleCheckBox;
     Outlet<CheckBox> isAutomaticCheckUpdateBox;
     Outlet<PopUpButton> modifierKeyPopUpBtn;
@@ -58,6 +60,9 @@ public:
     void AuthorityAction(Control& sender);
 
 private:
+    /// The box follows what the desktop has now.
+    void showSessionMenu();
+
     std::unique_ptr<PopoverViewController> help_;
     std::shared_ptr<Popover> popover_;  // shows it
 };

@@ -164,6 +164,12 @@ std::optional<char32_t> baseKeyOfShiftedOnUsLayout(char32_t character) {
     return base[at];
 }
 
+bool hasKeyCode(std::string_view character) {
+    if (std::ranges::find(symbolTexts, character, &KeyText::text) != std::end(symbolTexts)) return true;
+    const auto single = singleCharacter(character);
+    return single && *single > U' ' && keyTextOf(*single) == character;
+}
+
 KeyBinding parseKeyBinding(std::string_view text) {
     const std::size_t first = text.find(';');
     const std::size_t second = first == std::string_view::npos ? first : text.find(';', first + 1);

@@ -27,6 +27,9 @@ using BaseKeyOfShifted = std::function<std::optional<char32_t>(char32_t)>;
 /// The answer of a us layout, for when the active one cannot be asked.
 std::optional<char32_t> baseKeyOfShiftedOnUsLayout(char32_t character);
 
+/// Whether a key character is one that has a key code: those that parseShortcut gives.
+bool hasKeyCode(std::string_view character);
+
 /// What a toolkit answers for a menu item's key binding, taken apart.
 struct KeyBinding {
     /// The text of the shortcut as the toolkit writes it; empty: the item has none.

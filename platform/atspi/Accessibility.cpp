@@ -67,6 +67,7 @@ AXError Accessibility::copyMenuBar(int processIdentifier, AXValue& value) {
     using std::chrono::microseconds;
     lastRead_.time = std::chrono::duration_cast<microseconds>(std::chrono::steady_clock::now() - start);
     if (result != AXError::success) return result;
+    hasSessionMenu_ = tree->hasSessionMenu;
     tree->busEpoch = bus_.epoch();
     tree->processIdentifier = processIdentifier;
     value = AXUIElementRef(std::make_shared<MenuElement>(std::move(tree), 0));
@@ -114,6 +115,10 @@ AXError Accessibility::AXUIElementPerformAction(const AXUIElementRef& element, s
     return pressMenuItem(*bus, node, [this, process = menu->tree()->processIdentifier] {
         return options_.bringForward && options_.bringForward(process);
     });
+}
+
+SessionMenuState Accessibility::sessionMenuState() {
+    return options_.sessionMenu ? options_.sessionMenu().state : SessionMenuState::unknownDesktop;
 }
 
 bool Accessibility::AXIsProcessTrusted() {

@@ -26,7 +26,8 @@ public:
                                            std::int64_t first, std::int64_t count,
                                            std::vector<AXUIElementRef>& values) override;
     AXError AXUIElementPerformAction(const AXUIElementRef& element, std::string_view action) override;
-    bool hasSessionMenu() const override { return static_cast<bool>(options_.sessionMenu); }
+    bool hasSessionMenu() const override { return hasSessionMenu_; }
+    SessionMenuState sessionMenuState() override;
     bool AXIsProcessTrusted() override;
 
     /// How the last reading of a menu bar went.
@@ -39,6 +40,7 @@ private:
     AccessibilityBus bus_;
     SlowCaches slowCaches_;
     ReadStatistics lastRead_;
+    bool hasSessionMenu_ = false;
 };
 
 }  // namespace orlamo::atspi

@@ -20,7 +20,7 @@ struct Options {
     BaseKeyOfShifted baseKeyOfShifted = baseKeyOfShiftedOnUsLayout;
     /// An application's name for people, by process id; empty: the one it gives itself on the bus.
     std::function<std::string(int processIdentifier)> applicationName;
-    /// Asked for at each reading; empty: the desktop has none, and the session's element has no children.
+    /// Asked for at each reading; empty: the desktop is not known.
     std::function<SessionMenu()> sessionMenu;
     /// Gives an application the input focus back; false: it cannot. Some enable an item only while they have it.
     std::function<bool(int processIdentifier)> bringForward;

@@ -78,6 +78,36 @@ private:
     bool tellsHidden_;
 };
 
+// Modifier numbers that menus show: none of the others has symbols.
+bool isShown(std::int64_t modifiers) {
+    return modifiers < 8 || modifiers == 12 || modifiers == 13;
+}
+
+bool holdsShownShortcut(const MenuTree& tree, std::uint32_t index) {
+    const MenuNode& node = tree.nodes[index];
+    const bool hasCharacter = node.shortcut && !node.shortcut->character.empty();
+    if (hasCharacter && node.isEnabled.value_or(true) && isShown(node.shortcut->modifiers)) return true;
+    return std::ranges::any_of(node.children, [&tree](std::uint32_t child) { return holdsShownShortcut(tree, child); });
+}
+
+// The last menu that has an item to show, so that it gets no heading of its own; else the menu bar.
+std::uint32_t placeBehindAll(const MenuTree& tree) {
+    const auto& menus = tree.nodes[0].children;
+    const auto found = std::find_if(menus.rbegin(), menus.rend(),
+                                    [&tree](std::uint32_t menu) { return holdsShownShortcut(tree, menu); });
+    if (found == menus.rend() || tree.nodes[*found].kind != MenuNode::Kind::item) return 0;
+    return tree.nodes[*found].children.front();
+}
+
+MenuNode emptyRow() {
+    MenuNode node;
+    node.title = "space";
+    node.isEnabled = true;
+    node.shortcut = Shortcut{0, "A", 0};
+    node.press = [] { return AXError::actionUnsupported; };
+    return node;
+}
+
 }  // namespace
 
 MenuTree shapeMenus(const RawTree& raw, const ApplicationIdentity& application, const SessionMenu& session) {
@@ -87,6 +117,7 @@ MenuTree shapeMenus(const RawTree& raw, const ApplicationIdentity& application, 
     bar.object = raw.nodes[0].object;
     Shaper shaper(raw, tree);
 
+    tree.hasSessionMenu = session.state == SessionMenuState::present;
     MenuNode sessionNode;
     sessionNode.kind = MenuNode::Kind::session;
     if (!session.title.empty()) sessionNode.title = session.title;
@@ -114,6 +145,13 @@ MenuTree shapeMenus(const RawTree& raw, const ApplicationIdentity& application, 
     name.title = application.name;
     shaper.add(0, std::move(name));
     shaper.addMenus();
+
+    const auto hasNoCode = [](const SessionMenu::Item& item) {
+        return item.shortcut && !hasKeyCode(item.shortcut->character);
+    };
+    for (auto left = std::ranges::count_if(session.items, hasNoCode); left > 0; --left) {
+        shaper.add(placeBehindAll(tree), emptyRow());
+    }
     return tree;
 }
 

@@ -13,15 +13,17 @@
 
 namespace orlamo::atspi {
 
-/// What the desktop offers under a session menu: one heading and what can be done about the session.
+/// What the desktop offers under a session menu: when it is present, one heading and four things to do about the
+/// session.
 struct SessionMenu {
     struct Item {
         std::string title;
         std::optional<Shortcut> shortcut;
         std::function<AXError()> press = {};
     };
-    std::string title;
-    std::vector<Item> items;
+    SessionMenuState state = SessionMenuState::unknownDesktop;
+    std::string title = {};
+    std::vector<Item> items = {};
 };
 
 /// A menu element in the shape that platform/Accessibility.h promises.
@@ -46,6 +48,7 @@ struct MenuTree {
     std::vector<MenuNode> nodes;  // the first one is the menu bar
     unsigned busEpoch = 0;        // the life of the accessibility bus in which it was read
     int processIdentifier = 0;    // of the application
+    bool hasSessionMenu = false;
 };
 
 /// The application whose menus these are: its root object, and its name for people.
@@ -56,6 +59,8 @@ struct ApplicationIdentity {
 
 /// Puts raw elements into the promised shape: the session and the application's name in front, Qt's popups folded away,
 /// one menu under each menu-bar item; separators, tear-off items, hidden items and items without a name are left out.
+/// Behind them all stands an item "space" for each session item whose key has no code: who pairs items with key codes
+/// by counting, and leaves that title's row empty, has a pair for every other item then.
 MenuTree shapeMenus(const RawTree& raw, const ApplicationIdentity& application, const SessionMenu& session);
 
 }  // namespace orlamo::atspi

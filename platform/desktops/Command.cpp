@@ -30,20 +30,27 @@ void addOption(std::string_view word, std::string& letters) {
 
 }  // namespace
 
-Command commandOf(std::string_view text) {
+std::vector<std::string> argumentsOf(std::string_view text) {
     int count = 0;
     char** parsed = nullptr;
     if (g_shell_parse_argv(std::string(text).c_str(), &count, &parsed, nullptr) == FALSE) return {};
-    const std::unique_ptr<char*, decltype(&g_strfreev)> words(parsed, g_strfreev);
+    const std::unique_ptr<char*, decltype(&g_strfreev)> owner(parsed, g_strfreev);
+    std::vector<std::string> words(parsed, parsed + count);
+    words[0].erase(0, words[0].rfind('/') + 1);
+    return words;
+}
+
+Command commandOf(std::string_view text) {
+    const auto arguments = argumentsOf(text);
+    if (arguments.empty()) return {};
     Command command;
-    for (int i = 0; i < count; ++i) {
-        const std::string_view word = parsed[i];
-        if (i == 0) {
-            command.program = word.substr(word.rfind('/') + 1);
-        } else if (word.starts_with('-')) {
+    command.program = arguments[0];
+    for (std::size_t i = 1; i < arguments.size(); ++i) {
+        const std::string& word = arguments[i];
+        if (word.starts_with('-')) {
             addOption(word, command.options);
         } else {
-            command.words.emplace_back(word);
+            command.words.push_back(word);
         }
     }
     return command;

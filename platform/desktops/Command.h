@@ -15,6 +15,9 @@ struct Command {
     std::vector<std::string> words;  // all that is no option
 };
 
+/// The words of a command line, quoted as for a shell, the first without its folder; none when it cannot be taken
+/// apart.
+std::vector<std::string> argumentsOf(std::string_view text);
 /// "/usr/bin/xfce4-screenshooter -r --clipboard" is the program and the letters "rc". Quoted as for a shell; what
 /// cannot be taken apart is no program.
 Command commandOf(std::string_view text);

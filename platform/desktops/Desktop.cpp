@@ -1,5 +1,7 @@
 #include "platform/desktops/Desktop.h"
 
+#include <cstdlib>
+
 #include "platform/desktops/Text.h"
 
 namespace orlamo::desktops {
@@ -27,6 +29,11 @@ std::optional<Desktop> desktopOfNames(std::string_view colonSeparatedNames) {
         }
     }
     return std::nullopt;
+}
+
+std::string desktopNamesOfEnvironment() {
+    const char* const names = std::getenv("XDG_CURRENT_DESKTOP");
+    return names == nullptr ? "" : names;
 }
 
 }  // namespace orlamo::desktops

@@ -17,5 +17,7 @@ struct WindowManager {
 
 /// From XDG_CURRENT_DESKTOP, a list such as "ubuntu:GNOME": the first known name counts.
 std::optional<Desktop> desktopOfNames(std::string_view colonSeparatedNames);
+/// XDG_CURRENT_DESKTOP, or an empty text.
+std::string desktopNamesOfEnvironment();
 
 }  // namespace orlamo::desktops

@@ -1,7 +1,5 @@
 #include "platform/desktops/DesktopPreferences.h"
 
-#include <cstdlib>
-
 #include "platform/Log.h"
 #include "platform/desktops/GioSettingsSource.h"
 #include "platform/desktops/OpenboxHotKeys.h"
@@ -15,15 +13,10 @@ namespace {
 constexpr std::string_view hotKeyDomain = "com.apple.symbolichotkeys";
 constexpr std::string_view hotKeyKey = "AppleSymbolicHotKeys";
 
-std::string currentDesktopOfEnvironment() {
-    const char* const names = std::getenv("XDG_CURRENT_DESKTOP");
-    return names == nullptr ? "" : names;
-}
-
 }  // namespace
 
 DesktopPreferences::DesktopPreferences(CurrentWindowManager currentWindowManager)
-    : DesktopPreferences(std::make_unique<GioSettingsSource>(), currentDesktopOfEnvironment,
+    : DesktopPreferences(std::make_unique<GioSettingsSource>(), desktopNamesOfEnvironment,
                          std::move(currentWindowManager)) {}
 
 DesktopPreferences::DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop,

@@ -5,14 +5,13 @@
 
 #include "platform/Log.h"
 #include "platform/desktops/GioPointers.h"
+#include "platform/desktops/KdeService.h"
 #include "platform/desktops/SessionBus.h"
 #include "platform/desktops/Text.h"
 
 namespace orlamo::desktops {
 
 namespace {
-
-constexpr auto kdeService = "org.kde.kglobalaccel";
 
 std::string text(GVariant* value) {
     gsize length = 0;
@@ -28,15 +27,6 @@ std::optional<std::vector<std::string>> textsOf(GVariant* value) {
         texts.push_back(text(Owned<GVariant>(g_variant_get_child_value(value, i)).get()));
     }
     return texts;
-}
-
-// The service names a component's object after the component, with an underscore for what a path may not hold.
-std::string objectName(std::string_view component) {
-    std::string name(component);
-    for (auto& c : name) {
-        if (!g_ascii_isalnum(c)) c = '_';
-    }
-    return name;
 }
 
 // From the answer of allShortcutInfos: action, its title, component, its title, context, its title, keys, default keys.
@@ -136,8 +126,8 @@ std::optional<std::vector<GlobalShortcut>> GioSettingsSource::globalShortcuts(
         const char* path = nullptr;
         g_variant_get_child(running.get(), i, "&o", &path);
         for (const auto component : components) {
-            if (path != "/component/" + objectName(component)) continue;
-            const auto infos = bus.call(kdeService, path, "org.kde.kglobalaccel.Component", "allShortcutInfos",
+            if (path != kdeComponentPath(component)) continue;
+            const auto infos = bus.call(kdeService, path, kdeComponentInterface, "allShortcutInfos",
                                         g_variant_new("()"), "(a(ssssssaiai))");
             if (infos) appendShortcuts(infos.get(), std::string(component), shortcuts);
         }

@@ -42,6 +42,15 @@ void finishConnecting(GObject*, GAsyncResult* result, gpointer data) {
     connecting.isDone = true;
 }
 
+// `data` is the call as the log names it.
+void logFailure(GObject* connection, GAsyncResult* result, gpointer data) {
+    const std::unique_ptr<std::string> call(static_cast<std::string*>(data));
+    GError* error = nullptr;
+    const Owned<GVariant> answer(g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, &error));
+    const Owned<GError> owner(error);
+    if (error != nullptr) logLine(*call + ": " + error->message);
+}
+
 gboolean setTrue(gpointer flag) {
     *static_cast<bool*>(flag) = true;
     return G_SOURCE_REMOVE;
@@ -111,6 +120,19 @@ Owned<GVariant> SessionBus::call(const std::string& service, const std::string& 
         return nullptr;
     }
     return answer;
+}
+
+bool SessionBus::send(const std::string& service, const std::string& path, const std::string& interface,
+                      const std::string& method, GVariant* parameters) {
+    const Owned<GVariant> arguments(g_variant_ref_sink(parameters));
+    if (!connect()) {
+        logLine(service + " " + method + ": no session bus");
+        return false;
+    }
+    g_dbus_connection_call(connection_.get(), service.c_str(), path.c_str(), interface.c_str(), method.c_str(),
+                           arguments.get(), nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr, logFailure,
+                           new std::string(service + " " + method));
+    return true;
 }
 
 }  // namespace orlamo::desktops

@@ -22,6 +22,10 @@ public:
     /// The answer when it has that type, or null. Starts no service. `parameters` may be floating.
     Owned<GVariant> call(const std::string& service, const std::string& path, const std::string& interface,
                          const std::string& method, GVariant* parameters, const char* answerType);
+    /// Sends a call and waits for no answer; one that is an error is a line in the log. Starts the service where the
+    /// bus can. False, with a line in the log, when there is no bus. `parameters` may be floating.
+    bool send(const std::string& service, const std::string& path, const std::string& interface,
+              const std::string& method, GVariant* parameters);
 
 private:
     std::chrono::milliseconds timeLeft() const;

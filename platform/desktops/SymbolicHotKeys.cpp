@@ -6,12 +6,11 @@
 #include "platform/desktops/Command.h"
 #include "platform/desktops/HotKeys.h"
 #include "platform/desktops/PlasmaApplets.h"
+#include "platform/desktops/XfceBindings.h"
 
 namespace orlamo::desktops {
 
 namespace {
-
-constexpr std::string_view xfceChannel = "xfce4-keyboard-shortcuts";
 
 void addSettings(Desktop desktop, SettingsSource& source, HotKeys& hotKeys) {
     for (const auto rows : settingsRows(desktop)) {
@@ -25,21 +24,6 @@ void addSettings(Desktop desktop, SettingsSource& source, HotKeys& hotKeys) {
             }
         }
     }
-}
-
-// The bindings below "/commands" or "/xfwm4": accelerator to action.
-std::map<std::string, std::string> xfceBindings(const std::map<std::string, std::string>& properties,
-                                                const std::string& root) {
-    const auto override = properties.find(root + "/custom/override");
-    const bool isCustom = override != properties.end() && override->second == "true";
-    const std::string folder = root + (isCustom ? "/custom/" : "/default/");
-    std::map<std::string, std::string> bindings;
-    for (const auto& [path, action] : properties) {
-        // What has a further slash belongs to a binding, as "startup-notify" does.
-        if (path.starts_with(folder) && path.find('/', folder.size()) == std::string::npos)
-            bindings[path.substr(folder.size())] = action;
-    }
-    return bindings;
 }
 
 void addXfce(SettingsSource& source, HotKeys& hotKeys) {

@@ -21,10 +21,10 @@ constexpr Legend modifierLegends[] = {
     {"⌃⌥⌘", "⊞^Alt"}, {"⌃⌥⇧", "⊞⇧Alt"}, {"⌃⌥⇧⌘", "⊞⇧^A"}, {"fn", "Fn"},
 };
 
-// The keyboard standard's signs where the word is wider than its place.
+// The keyboard standard's signs where the word is wider than its place, or would run into the title behind it.
 constexpr Legend keyLegends[] = {
-    {"SPACE", "⌴"},  {"DELETE", "Del"}, {"HOME", "⇱"},  {"END", "⇲"},   {"PGUP", "⇞"},  {"PGDN", "⇟"},
-    {"HELP", "Ins"}, {"CLEAR", "Clr"},  {"F13", "Prt"}, {"F14", "Scr"}, {"F15", "Brk"}, {"fn", "Fn"},
+    {"SPACE", "⌴"},  {"DELETE", "⌦"},  {"HOME", "⇱"},  {"END", "⇲"},   {"PGUP", "⇞"},  {"PGDN", "⇟"},
+    {"HELP", "Ins"}, {"CLEAR", "Clr"}, {"F13", "Prt"}, {"F14", "Scr"}, {"F15", "Brk"}, {"fn", "Fn"},
 };
 
 std::string_view lookUp(std::span<const Legend> legends, std::string_view text) {

@@ -1,6 +1,14 @@
 #include "platform/x11/WindowManager.h"
 
+#include <algorithm>
+
 namespace orlamo::x11 {
+
+namespace {
+
+constexpr std::string_view showingDesktop = "_NET_SHOWING_DESKTOP";
+
+}  // namespace
 
 std::string WindowManager::name() {
     if (!windows_.hasWindowManager()) return {};
@@ -10,6 +18,27 @@ std::string WindowManager::name() {
 
 std::string WindowManager::configuration() {
     return windows_.text(connection_.root(), "_OB_CONFIG_FILE");
+}
+
+bool WindowManager::canShowDesktop() {
+    if (!windows_.hasWindowManager()) return false;
+    const auto supported = windows_.numbers(connection_.root(), "_NET_SUPPORTED");
+    return std::ranges::find(supported, connection_.atom(showingDesktop)) != supported.end();
+}
+
+bool WindowManager::toggleShowingDesktop() {
+    if (!canShowDesktop()) return false;
+    const auto now = windows_.numbers(connection_.root(), showingDesktop);
+    const bool isShowing = !now.empty() && now.front() != 0;
+    windows_.sendToManager(connection_.root(), showingDesktop, {isShowing ? 0U : 1U});
+    return true;
+}
+
+bool WindowManager::minimizeActiveWindow() {
+    constexpr std::uint32_t iconicState = 3;
+    const auto window = windows_.activeWindow();
+    if (window) windows_.sendToManager(*window, "WM_CHANGE_STATE", {iconicState});
+    return window.has_value();
 }
 
 }  // namespace orlamo::x11

@@ -15,6 +15,13 @@ public:
     std::string name();
     /// The file that Openbox was told to read; empty when it reads its usual one, and for other window managers.
     std::string configuration();
+    /// Whether it shows the desktop when it is asked to.
+    bool canShowDesktop();
+    /// Puts all windows away, or brings them back. False without a window manager that can.
+    bool toggleShowingDesktop();
+    bool canMinimize() { return windows_.hasWindowManager(); }
+    /// The active window. False when there is none.
+    bool minimizeActiveWindow();
 
 private:
     Connection& connection_;

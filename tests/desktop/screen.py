@@ -107,6 +107,11 @@ class Screen:
         found = self._property(self.root, "_NET_CURRENT_DESKTOP", Xatom.CARDINAL)
         return found[0] if found is not None else None
 
+    def shows_desktop(self):
+        """Whether all windows are put away."""
+        found = self._property(self.root, "_NET_SHOWING_DESKTOP", Xatom.CARDINAL)
+        return bool(found is not None and found[0])
+
     def active_window(self):
         found = self._property(self.root, "_NET_ACTIVE_WINDOW", Xatom.WINDOW)
         return self.display.create_resource_object("window", found[0]) if found is not None and found[0] else None

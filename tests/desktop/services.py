@@ -22,11 +22,12 @@ def set_global_shortcuts(bus, component, shortcuts):
 
 class NonsenseService:
     """Has a name on the session bus and answers methods with whatever it is told: {(path, interface, method with the
-    types that it takes): answer}. An answer of None never comes."""
+    types that it takes): answer}. An answer of None never comes. `calls` holds each method and what it was given."""
 
     def __init__(self, session, name, answers):
         self._session, self._name, self._answers = session, name, answers
         self._late = []
+        self.calls = []
         ready = threading.Event()
         self._thread = threading.Thread(target=self._run, args=(ready,), daemon=True)
         self._thread.start()
@@ -51,7 +52,7 @@ class NonsenseService:
             method_of = f'<method name="{name}">{"".join(words)}</method>'
             node = Gio.DBusNodeInfo.new_for_xml(f'<node><interface name="{interface}">{method_of}</interface></node>')
             connection.register_object(path, node.interfaces[0],
-                                       lambda *called, answer=answer: self._answer(called[-1], answer), None, None)
+                                       lambda *called, answer=answer: self._answer(*called[-3:], answer), None, None)
         accessible.call(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                         "RequestName", GLib.Variant("(su)", (self._name, 4)))
         ready.set()
@@ -59,7 +60,8 @@ class NonsenseService:
         connection.close_sync(None)
         context.pop_thread_default()
 
-    def _answer(self, invocation, answer):
+    def _answer(self, method, given, invocation, answer):
+        self.calls.append((method, *given.unpack()))
         if answer is None:
             self._late.append(invocation)
         else:

@@ -156,8 +156,10 @@ public:
 
     bool AXIsProcessTrusted() override { return trusted; }
     bool hasSessionMenu() const override { return sessionMenu; }
+    SessionMenuState sessionMenuState() override { return menuState; }
 
     bool sessionMenu = true;
+    SessionMenuState menuState = SessionMenuState::present;
     bool trusted = true;                         // while false every call fails
     std::map<int, FakeElementPtr> applications;  // by process id
     std::vector<FakeElementPtr> presses;         // also those that failed with the node's own result

@@ -42,12 +42,18 @@ TEST_F(Settings, LoadingShowsEachStoredSettingInItsOwnBoxAndLeavesTheDockAlone) 
     EXPECT_EQ(desktop.defaults.writes, 0);
 }
 
-TEST_F(Settings, TheSessionMenusBoxIsEnabledWhereThereIsOne) {
-    for (const bool present : {true, false}) {
-        desktop.accessibility.sessionMenu = present;
-        SettingsController loaded;
-        loaded.view();
-        EXPECT_EQ(files.control<FakeCheckBox>("isContainsAppleMenuBox").enabled, present);
+TEST_F(Settings, TheSessionMenusBoxFollowsTheDesktopEachTimeThePageAppearsAndSaysWhyItIsDisabled) {
+    page.view();
+    const std::pair<SessionMenuState, const char*> cases[] = {{SessionMenuState::unknownDesktop, ".unknown_desktop"},
+                                                              {SessionMenuState::notBound, ".not_bound"},
+                                                              {SessionMenuState::present, ".description"},
+                                                              {SessionMenuState::noService, ".no_service"}};
+    for (const auto& [state, ending] : cases) {
+        desktop.accessibility.menuState = state;
+        files.view("SettingsController")->appear();
+        EXPECT_EQ(files.control<FakeCheckBox>("isContainsAppleMenuBox").enabled, state == SessionMenuState::present);
+        EXPECT_EQ(files.control<FakeTextField>("isContainsAppleMenuBoxDescription").text,
+                  std::string("settings.session_menu") + ending);
     }
 }
 

@@ -82,10 +82,25 @@ TEST_F(MenuReading, AMenuBarItemWithoutATitleIsReported) {
 
 TEST_F(MenuReading, ASessionMenuTakesTheFirstPlace) {
     source.objects = {{"bar", Object{{}, "", ObjectRole::menuBar}}};
-    session = {"Session", {{"Lock", Shortcut{4, "L", 0}, [] { return AXError::noValue; }}}};
+    session = {SessionMenuState::present, "Session", {{"Lock", Shortcut{4, "L", 0}, [] { return AXError::noValue; }}}};
     const MenuTree tree = shape();
     EXPECT_EQ(text(tree), "?[Session[:[Lock(4L)]] Editor]");
     EXPECT_EQ(tree.nodes[3].press(), AXError::noValue);
+}
+
+TEST_F(MenuReading, ForASessionItemWhoseKeyHasNoCodeAnEmptyRowWithAKeyStandsBehindAll) {
+    session = {SessionMenuState::present, "Session", {{"Out", Shortcut{2, "DELETE", 0}}, {"In", Shortcut{4, "⎋", 0}}}};
+    source.objects = {{"bar", Object{{"a", "b"}, "", ObjectRole::menuBar}},
+                      {"a", Object{{"new", "sub"}, "A"}},
+                      {"new", Object{{}, "New", ObjectRole::menuItem, usable, "Ctrl+N"}},
+                      {"sub", Object{{"one"}, "Sub"}},
+                      {"one", Object{{}, "One", ObjectRole::menuItem, usable, "Ctrl+1"}},
+                      {"b", Object{{"old"}, "B"}},
+                      {"old", Object{{}, "Old", ObjectRole::menuItem, usable, "F2"}}};
+    const std::string front = "?[Session[:[Out(2DELETE) In(4⎋)]] Editor ";
+    EXPECT_EQ(text(shape()), front + "A[:[New(0N) Sub[One(01)] space(0A)]] B[:[Old(8)]]]");
+    source.objects["a"].children = {};
+    EXPECT_EQ(text(shape()), front + "A[:] B[:[Old(8)]] space(0A)]");
 }
 
 TEST_F(MenuReading, NothingIsAskedThatTheCacheKnows) {

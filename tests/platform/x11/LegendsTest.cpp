@@ -30,7 +30,7 @@ TEST(Legends, KeysReadAsTheKeyboardPrintsThem) {
     EXPECT_EQ(modifierLegendOf("⌃", "Strg"), "Super");
     EXPECT_EQ(keyLegendOf("F13"), "Prt");
     EXPECT_EQ(keyLegendOf("HELP"), "Ins");
-    EXPECT_EQ(keyLegendOf("DELETE"), "Del");
+    EXPECT_EQ(keyLegendOf("DELETE"), "⌦");
 }
 
 TEST(Legends, OtherTextsStayAsTheyAre) {

@@ -1,0 +1,166 @@
+#include "platform/desktops/SessionMenu.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "platform/EventFlags.h"
+#include "platform/desktops/Command.h"
+#include "platform/desktops/XfceBindings.h"
+
+namespace orlamo::desktops {
+
+namespace {
+
+constexpr std::size_t furtherCommands = 2;
+
+// A menu says Shift, Option and Control with Command or Control alone; it cannot say Option without Command.
+bool canBeShown(const KeyCombination& key, SessionRole role) {
+    constexpr std::int64_t lastOfMainBlock = 53;
+    constexpr std::int64_t returnKey = 36;
+    const auto mask = static_cast<std::uint64_t>(key.mask);
+    const bool hasCommand = (mask & EventFlags::command) != 0;
+    const bool isControlAlone = (mask & EventFlags::control) != 0 && (mask & EventFlags::option) == 0;
+    if (!hasCommand && !isControlAlone) return false;
+    return role != SessionRole::further || key.keyCode <= lastOfMainBlock || key.keyCode == returnKey;
+}
+
+struct Bound {
+    KeyCombination key;
+    std::string command;  // what the key runs, where that is a command
+};
+
+/// What one desktop's settings hold now.
+class Bindings {
+public:
+    Bindings(Desktop desktop, std::span<const SessionRow> rows, SettingsSource& source)
+        : desktop_(desktop), source_(source) {
+        if (desktop == Desktop::xfce) {
+            xfce_ = source.properties(xfceChannel);
+        } else if (desktop == Desktop::kde) {
+            std::vector<std::string_view> components;
+            for (const auto& row : rows) {
+                if (std::ranges::find(components, row.place) == components.end()) components.push_back(row.place);
+            }
+            kde_ = source.globalShortcuts(components);
+        }
+    }
+
+    /// Whether somebody could be asked.
+    bool isAnswered() const { return isAnswered_ || xfce_ || kde_; }
+
+    /// The first binding that can be shown.
+    std::optional<Bound> of(const SessionRow& row) {
+        if (desktop_ == Desktop::xfce) return ofXfce(row);
+        if (desktop_ == Desktop::kde) return ofKde(row);
+        return ofSettings(row);
+    }
+
+private:
+    static std::optional<Bound> shown(const KeyBinding& binding, const SessionRow& row, std::string command = {}) {
+        if (!binding.combination || !canBeShown(*binding.combination, row.role)) return std::nullopt;
+        return Bound{*binding.combination, std::move(command)};
+    }
+
+    std::optional<Bound> ofSettings(const SessionRow& row) {
+        for (const auto& key : {std::string(row.name), std::string(row.name) + "-static"}) {
+            const auto texts = source_.texts(row.place, key);
+            if (!texts) continue;
+            isAnswered_ = true;
+            for (const auto& text : *texts) {
+                if (auto bound = shown(bindingOfAccelerator(text), row)) return bound;
+            }
+        }
+        return std::nullopt;
+    }
+
+    std::optional<Bound> ofXfce(const SessionRow& row) {
+        if (!xfce_) return std::nullopt;
+        const bool isCommand = row.place == "/commands";
+        const auto wanted = argumentsOf(row.name);
+        for (const auto& [accelerator, action] : xfceBindings(*xfce_, std::string(row.place))) {
+            if (isCommand ? argumentsOf(action) != wanted : action != row.name) continue;
+            if (auto bound = shown(bindingOfAccelerator(accelerator), row, action)) return bound;
+        }
+        return std::nullopt;
+    }
+
+    std::optional<Bound> ofKde(const SessionRow& row) {
+        if (!kde_) return std::nullopt;
+        for (const auto& shortcut : *kde_) {
+            if (shortcut.component != row.place || shortcut.action != row.name) continue;
+            for (const auto key : shortcut.keys) {
+                if (auto bound = shown(bindingOfQtKey(key), row)) return bound;
+            }
+        }
+        return std::nullopt;
+    }
+
+    Desktop desktop_;
+    SettingsSource& source_;
+    bool isAnswered_ = false;
+    std::optional<std::map<std::string, std::string>> xfce_;
+    std::optional<std::vector<GlobalShortcut>> kde_;
+};
+
+SessionDeed deedOf(const SessionRow& row, std::string command) {
+    return std::visit(
+        [&command](const auto& performer) -> SessionDeed {
+            if constexpr (std::is_same_v<std::decay_t<decltype(performer)>, BoundCommand>) {
+                return CommandLine{std::move(command), performer.service};
+            } else {
+                return performer;
+            }
+        },
+        row.performer);
+}
+
+struct Found {
+    std::vector<SessionCommand> commands;
+    std::size_t bound = 0;  // commands that have a key, performed by somebody or not
+};
+
+/// The first `wanted` commands of that role.
+Found find(SessionRole role, std::size_t wanted, std::span<const SessionRow> rows, Bindings& bindings,
+           SessionServices& services) {
+    Found found;
+    std::string_view lastBound;
+    for (const auto& row : rows) {
+        if (row.role != role || found.commands.size() == wanted) continue;
+        const bool isFound =
+            std::ranges::find(found.commands, row.title, &SessionCommand::title) != found.commands.end();
+        if (isFound) continue;
+        auto bound = bindings.of(row);
+        if (!bound) continue;
+        if (row.title != lastBound) ++found.bound;
+        lastBound = row.title;
+        auto deed = deedOf(row, std::move(bound->command));
+        if (services.isThere(deed)) found.commands.push_back({row.title, bound->key, std::move(deed)});
+    }
+    return found;
+}
+
+}  // namespace
+
+SessionMenu readSessionMenu(std::optional<Desktop> desktop, SettingsSource& source, SessionServices& services) {
+    if (!desktop || sessionRows(*desktop).empty()) return {};
+    const auto rows = sessionRows(*desktop);
+    source.refresh();
+    services.refresh();
+    Bindings bindings(*desktop, rows, source);
+    SessionMenu menu{SessionMenuState::present, {}};
+    for (const auto& [role, wanted] :
+         {std::pair(SessionRole::lock, std::size_t{1}), std::pair(SessionRole::logOut, std::size_t{1}),
+          std::pair(SessionRole::further, furtherCommands)}) {
+        auto found = find(role, wanted, rows, bindings, services);
+        if (found.bound < wanted) menu.state = SessionMenuState::notBound;
+        const bool isMissed = found.commands.size() < wanted && menu.state == SessionMenuState::present;
+        if (isMissed) menu.state = SessionMenuState::noService;
+        std::ranges::move(found.commands, std::back_inserter(menu.commands));
+    }
+    if (!bindings.isAnswered()) menu.state = SessionMenuState::noService;
+    if (menu.state != SessionMenuState::present) menu.commands.clear();
+    return menu;
+}
+
+}  // namespace orlamo::desktops
