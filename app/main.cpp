@@ -16,6 +16,7 @@
 #include "platform/desktops/GioSessionServices.h"
 #include "platform/desktops/GioSettingsSource.h"
 #include "platform/desktops/SessionMenu.h"
+#include "platform/desktops/SharedSettings.h"
 #include "platform/desktops/ToolkitAccessibility.h"
 #include "platform/plist/LibplistParser.h"
 #include "platform/qt/JsonUserDefaults.h"
@@ -103,7 +104,8 @@ atspi::Shortcut menuShortcut(const desktops::KeyCombination& key) {
 /// What the desktop can do about the session, read anew each time, as the first menu of every menu bar.
 class SessionMenus {
 public:
-    explicit SessionMenus(x11::WindowManager& manager) : services_(requests(manager)) {}
+    SessionMenus(desktops::SettingsSource& settings, x11::WindowManager& manager)
+        : settings_(settings), services_(requests(manager)) {}
 
     atspi::SessionMenu read() {
         const auto desktop = desktops::desktopOfNames(desktops::desktopNamesOfEnvironment());
@@ -133,7 +135,7 @@ private:
                     }};
     }
 
-    desktops::GioSettingsSource settings_;
+    desktops::SettingsSource& settings_;
     desktops::GioSessionServices services_;
 };
 
@@ -196,9 +198,12 @@ int main(int argc, char** argv) {
     x11::Windows windows(*connection);
     x11::WindowManager windowManager(*connection, windows);
     x11::FocusMemory focus;
-    const Installed<SystemPreferences, desktops::DesktopPreferences> preferences([&windowManager] {
-        return desktops::WindowManager{windowManager.name(), windowManager.configuration()};
-    });
+    // Each showing reads the session menu first, then the desktop's column.
+    desktops::SharedSettings settings(std::make_unique<desktops::GioSettingsSource>());
+    const Installed<SystemPreferences, desktops::DesktopPreferences> preferences(
+        settings.follower(), desktops::desktopNamesOfEnvironment, [&windowManager] {
+            return desktops::WindowManager{windowManager.name(), windowManager.configuration()};
+        });
     const Installed<Keyboard, x11::Keyboard> keyboard(keys, NSLocalizedString("keyboard.ctrl"));
     const Installed<EventMonitors, x11::EventMonitors> monitors(*connection, keys, windows);
     const Installed<EventPoster, x11::EventPoster> poster(*connection, keys, windowManager);
@@ -220,7 +225,7 @@ int main(int argc, char** argv) {
     const Installed<StatusBar, qt::QtStatusBar> statusBar(*connection);
     const Installed<Updates, appcast::Updater> updates(&program);
 
-    SessionMenus sessionMenus(windowManager);
+    SessionMenus sessionMenus(settings, windowManager);
     const Installed<Accessibility, atspi::Accessibility> accessibility(
         atspi::Options{.baseKeyOfShifted = [&keys](char32_t character) { return keys.baseKeyOfShifted(character); },
                        .applicationName = nameForPeople,

@@ -1,7 +1,6 @@
 #include "platform/desktops/DesktopPreferences.h"
 
 #include "platform/Log.h"
-#include "platform/desktops/GioSettingsSource.h"
 #include "platform/desktops/OpenboxHotKeys.h"
 #include "platform/desktops/SymbolicHotKeys.h"
 #include "platform/desktops/Text.h"
@@ -14,10 +13,6 @@ constexpr std::string_view hotKeyDomain = "com.apple.symbolichotkeys";
 constexpr std::string_view hotKeyKey = "AppleSymbolicHotKeys";
 
 }  // namespace
-
-DesktopPreferences::DesktopPreferences(CurrentWindowManager currentWindowManager)
-    : DesktopPreferences(std::make_unique<GioSettingsSource>(), desktopNamesOfEnvironment,
-                         std::move(currentWindowManager)) {}
 
 DesktopPreferences::DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop,
                                        CurrentWindowManager currentWindowManager)

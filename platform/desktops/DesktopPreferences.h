@@ -18,9 +18,8 @@ public:
     using CurrentDesktop = std::function<std::string()>;
     using CurrentWindowManager = std::function<WindowManager()>;
 
-    /// The desktop that XDG_CURRENT_DESKTOP names, its settings read through GIO. Where it names none that is known,
-    /// the window manager's own keys, if that is Openbox.
-    explicit DesktopPreferences(CurrentWindowManager currentWindowManager = {});
+    /// The first function tells XDG_CURRENT_DESKTOP. Where that names no desktop that is known, the window manager's
+    /// own keys count, if that is Openbox.
     DesktopPreferences(std::unique_ptr<SettingsSource> source, CurrentDesktop currentDesktop,
                        CurrentWindowManager currentWindowManager = {});
     ~DesktopPreferences() override;

@@ -51,7 +51,7 @@ class Preferences(DesktopTest):
                 self.reader.press(box)
                 self.wait_for_setting(setting, not before)
                 self.assertEqual(not before, self.reader.has_state(box, CHECKED))
-        self.assertFalse(self.reader.has_state(self.box("settings.session_menu"), SENSITIVE), "no desktop has it yet")
+        self.assertFalse(self.reader.has_state(self.box("settings.session_menu"), SENSITIVE), "no desktop, no menu")
         entry = self.session.config / "autostart" / "app.orlamo.OrlamoHelper.desktop"
         self.assertIn("\nExec=", entry.read_text())
         self.reader.press(self.box("settings.login"))
