@@ -104,8 +104,8 @@ atspi::Shortcut menuShortcut(const desktops::KeyCombination& key) {
 /// What the desktop can do about the session, read anew each time, as the first menu of every menu bar.
 class SessionMenus {
 public:
-    SessionMenus(desktops::SettingsSource& settings, x11::WindowManager& manager)
-        : settings_(settings), services_(requests(manager)) {}
+    SessionMenus(desktops::SettingsSource& settings, x11::WindowManager& manager, const x11::FocusMemory& focus)
+        : settings_(settings), services_(requests(manager, focus)) {}
 
     atspi::SessionMenu read() {
         const auto desktop = desktops::desktopOfNames(desktops::desktopNamesOfEnvironment());
@@ -123,15 +123,16 @@ public:
     }
 
 private:
-    static desktops::WindowRequests requests(x11::WindowManager& manager) {
+    static desktops::WindowRequests requests(x11::WindowManager& manager, const x11::FocusMemory& focus) {
         using enum desktops::WindowRequest;
         return {.canDo =
                     [&manager](desktops::WindowRequest request) {
                         return request == showDesktop ? manager.canShowDesktop() : manager.canMinimize();
                     },
                 .ask =
-                    [&manager](desktops::WindowRequest request) {
-                        return request == showDesktop ? manager.toggleShowingDesktop() : manager.minimizeActiveWindow();
+                    [&manager, &focus](desktops::WindowRequest request) {
+                        return request == showDesktop ? manager.toggleShowingDesktop()
+                                                      : manager.minimizeWindowInFront(focus);
                     }};
     }
 
@@ -225,7 +226,7 @@ int main(int argc, char** argv) {
     const Installed<StatusBar, qt::QtStatusBar> statusBar(*connection);
     const Installed<Updates, appcast::Updater> updates(&program);
 
-    SessionMenus sessionMenus(settings, windowManager);
+    SessionMenus sessionMenus(settings, windowManager, focus);
     const Installed<Accessibility, atspi::Accessibility> accessibility(
         atspi::Options{.baseKeyOfShifted = [&keys](char32_t character) { return keys.baseKeyOfShifted(character); },
                        .applicationName = nameForPeople,

@@ -34,11 +34,13 @@ bool WindowManager::toggleShowingDesktop() {
     return true;
 }
 
-bool WindowManager::minimizeActiveWindow() {
+bool WindowManager::minimizeWindowInFront(const FocusMemory& memory) {
     constexpr std::uint32_t iconicState = 3;
-    const auto window = windows_.activeWindow();
-    if (window) windows_.sendToManager(*window, "WM_CHANGE_STATE", {iconicState});
-    return window.has_value();
+    const auto former = memory.former();
+    const auto window = former ? std::optional(windows_.applicationWindow(former->window)) : windows_.activeWindow();
+    if (!window) return false;
+    windows_.sendToManager(*window, "WM_CHANGE_STATE", {iconicState});
+    return true;
 }
 
 }  // namespace orlamo::x11

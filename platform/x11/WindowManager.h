@@ -20,8 +20,9 @@ public:
     /// Puts all windows away, or brings them back. False without a window manager that can.
     bool toggleShowingDesktop();
     bool canMinimize() { return windows_.hasWindowManager(); }
-    /// The active window. False when there is none.
-    bool minimizeActiveWindow();
+    /// The window of the application in front: the one that had the focus before this program took it, else the active
+    /// one. False when there is none.
+    bool minimizeWindowInFront(const FocusMemory& memory);
 
 private:
     Connection& connection_;

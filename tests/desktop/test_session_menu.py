@@ -4,9 +4,10 @@ import signal
 import time
 
 import accessible
+import services
 from accessible import CHECK_BOX, SENSITIVE, AccessibleApplication
 from case import DesktopTest
-from gi.repository import GLib
+from gi.repository import Gio, GLib
 from screen import wait_until
 from services import NonsenseService
 from texts import texts
@@ -24,10 +25,77 @@ XFCE_KEYS = {"/commands/custom/<Primary><Alt>l": "xflock4",
              "/commands/custom/<Super>e": "thunar"}
 SAVER, LOCK = "org.xfce.ScreenSaver", ("/org/xfce/ScreenSaver", "org.xfce.ScreenSaver", "Lock")
 MANAGER, LOG_OUT = "org.xfce.SessionManager", ("/org/xfce/SessionManager", "org.xfce.Session.Manager", "Logout bb")
+CTRL, ALT, META, DELETE = 0x04000000, 0x08000000, 0x10000000, 0x01000007  # Qt's numbers
 DONE = GLib.Variant("()", ())
 
 
 class SessionMenu(DesktopTest):
+    def open_over_editor(self, **arguments):
+        self.start_program(**arguments)
+        self.session.open_editor("mousepad")
+        self.program.open_panel()
+        return self.program.application_shortcuts()
+
+    def click(self, key):
+        self.screen.click(*self.program.hover(TEXTS[key]))
+        self.program.wait_until_closed()
+        self.wait_out_the_double_press()
+
+    def wait_for_call(self, service, call):
+        wait_until(lambda: call in service.calls, 5, f"call {call}")
+
+    def assert_menu(self, keys, entries):
+        """Its heading, and its items' keys by those of their titles."""
+        self.assertEqual(LOGO, entries[0])
+        self.assertEqual([(TEXTS[title], key) for title, key in keys.items()],
+                         [(entry["Title"], entry["Modifier"] + entry["MenuItemCmdChar"])
+                          for entry in entries[1:MENU_ENTRIES]])
+        self.assertNotIn(LOGO, entries[MENU_ENTRIES:])
+
+
+class Gnome(SessionMenu):
+    program_environment = {"XDG_CURRENT_DESKTOP": "GNOME"}
+
+    def test_gnome_has_it_with_the_keys_that_it_comes_with(self):
+        manager, shell = [NonsenseService(self.session, f"org.gnome.{name}", {(f"/org/gnome/{name}", interface, method): DONE})
+                          for name, interface, method in (
+                              ("SessionManager", "org.gnome.SessionManager", "Logout u"),
+                              ("Shell", "org.freedesktop.DBus.Properties", "Set ssv"))]
+        NonsenseService(self.session, "org.gnome.ScreenSaver", {})
+        self.assert_menu({"session.lock": "⌃L", "session.log_out": "⌥⌘DELETE", "session.overview": "⌃S",
+                          "session.minimize": "⌃H"}, self.open_over_editor())
+        self.click("session.log_out")
+        self.wait_for_call(manager, ("Logout", 0))
+        self.program.open_panel()
+        self.click("session.overview")
+        self.wait_for_call(shell, ("Set", "org.gnome.Shell", "OverviewActive", True))
+        self.program.open_panel()
+        self.click("session.minimize")
+        wait_until(lambda: self.screen.active_window() is None, 5, "end of the editor's window")
+
+
+class Kde(SessionMenu):
+    program_environment = {"XDG_CURRENT_DESKTOP": "KDE"}
+
+    def test_kde_has_its_service_for_shortcuts_do_it(self):
+        self.session.start(["kglobalaccel5"])
+        self.session.wait_for_service(services.KGLOBALACCEL)
+        for component, action, key in (("ksmserver", "Lock Session", META | ord("L")),
+                                       ("ksmserver", "Log Out", CTRL | ALT | DELETE),
+                                       ("kwin", "Overview", META | ord("W")), ("kwin", "Show Desktop", META | ord("D"))):
+            services.set_global_shortcuts(self.session.session_bus, component, {action: [key]})
+        pressed = []
+        self.session.session_bus.signal_subscribe(
+            services.KGLOBALACCEL, services.KDE_COMPONENT, "globalShortcutPressed", "/component/ksmserver", None,
+            Gio.DBusSignalFlags.NONE, lambda *told: pressed.append(told[5].unpack()[:2]))
+        self.assert_menu({"session.lock": "⌃L", "session.log_out": "⌥⌘DELETE", "session.overview": "⌃W",
+                          "session.show_desktop": "⌃D"}, self.open_over_editor())
+        self.click("session.lock")
+        wait_until(lambda: pressed or GLib.MainContext.default().iteration(False) and None, 5, "lock")
+        self.assertEqual([("ksmserver", "Lock Session")], pressed)
+
+
+class Xfce(SessionMenu):
     program_environment = {"XDG_CURRENT_DESKTOP": "XFCE"}
 
     def setUp(self):
@@ -46,7 +114,8 @@ class SessionMenu(DesktopTest):
             self.bind(path, value)
 
     def bind(self, path, value):
-        self.xfconf("SetProperty", GLib.Variant("(ssv)", (CHANNEL, path, GLib.Variant("b" if value is True else "s", value))))
+        kind = "b" if value is True else "s"
+        self.xfconf("SetProperty", GLib.Variant("(ssv)", (CHANNEL, path, GLib.Variant(kind, value))))
 
     def unbind(self, path):
         self.xfconf("ResetProperty", GLib.Variant("(ssb)", (CHANNEL, path, False)))
@@ -60,31 +129,10 @@ class SessionMenu(DesktopTest):
         self.saver = NonsenseService(self.session, SAVER, {LOCK: lock})
         self.manager = NonsenseService(self.session, MANAGER, {LOG_OUT: DONE})
 
-    def wait_for_call(self, service, call):
-        wait_until(lambda: call in service.calls, 5, f"call {call}")
-
-    def open_over_editor(self, **arguments):
-        self.start_program(**arguments)
-        self.session.open_editor("mousepad")
-        self.program.open_panel()
-        return self.program.application_shortcuts()
-
-    def click(self, key):
-        self.screen.click(*self.program.hover(TEXTS[key]))
-        self.program.wait_until_closed()
-        self.wait_out_the_double_press()
-
-    @staticmethod
-    def keys(entries):
-        return {entry["Title"]: entry["Modifier"] + entry["MenuItemCmdChar"] for entry in entries[1:MENU_ENTRIES]}
-
     def test_each_of_its_four_cells_does_what_it_says(self):
         self.play()
-        entries = self.open_over_editor()
-        self.assertEqual(LOGO, entries[0])
-        self.assertEqual({TEXTS["session.lock"]: "⌥⌘L", TEXTS["session.log_out"]: "⌥⌘DELETE",
-                          TEXTS["session.show_desktop"]: "⌥⌘D", TEXTS["session.files"]: "⌃E"}, self.keys(entries))
-        self.assertNotIn(LOGO, entries[MENU_ENTRIES:])
+        self.assert_menu({"session.lock": "⌥⌘L", "session.log_out": "⌥⌘DELETE", "session.show_desktop": "⌥⌘D",
+                          "session.files": "⌃E"}, self.open_over_editor())
         self.click("session.lock")
         self.wait_for_call(self.saver, ("Lock",))
         self.program.open_panel()
