@@ -1,6 +1,7 @@
 #include "platform/desktops/SessionMenu.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -11,8 +12,6 @@
 namespace orlamo::desktops {
 
 namespace {
-
-constexpr std::size_t furtherCommands = 2;
 
 // A menu says Shift, Option and Control with Command or Control alone; it cannot say Option without Command.
 bool canBeShown(const KeyCombination& key, SessionRole role) {
@@ -115,27 +114,31 @@ SessionDeed deedOf(const SessionRow& row, std::string command) {
         row.performer);
 }
 
-struct Found {
-    std::vector<SessionCommand> commands;
-    std::size_t bound = 0;  // commands that have a key, performed by somebody or not
+struct Role {
+    SessionRole role;
+    std::size_t wanted;  // commands of different titles
 };
+constexpr Role roles[] = {{SessionRole::lock, 1}, {SessionRole::logOut, 1}, {SessionRole::further, 2}};
 
-/// The first `wanted` commands of that role.
-Found find(SessionRole role, std::size_t wanted, std::span<const SessionRow> rows, Bindings& bindings,
-           SessionServices& services) {
-    Found found;
-    std::string_view lastBound;
+/// What has a key, whether somebody performs it or not.
+std::vector<SessionCommand> boundCommands(SessionRole role, std::span<const SessionRow> rows, Bindings& bindings) {
+    std::vector<SessionCommand> commands;
     for (const auto& row : rows) {
-        if (row.role != role || found.commands.size() == wanted) continue;
-        const bool isFound =
-            std::ranges::find(found.commands, row.title, &SessionCommand::title) != found.commands.end();
-        if (isFound) continue;
+        if (row.role != role) continue;
         auto bound = bindings.of(row);
-        if (!bound) continue;
-        if (row.title != lastBound) ++found.bound;
-        lastBound = row.title;
-        auto deed = deedOf(row, std::move(bound->command));
-        if (services.isThere(deed)) found.commands.push_back({row.title, bound->key, std::move(deed)});
+        if (bound) commands.push_back({row.title, bound->key, deedOf(row, std::move(bound->command))});
+    }
+    return commands;
+}
+
+/// The first of each title, at most `wanted`. Rows of one title stand together.
+template <class Counts>
+std::vector<SessionCommand> firstOfEachTitle(const std::vector<SessionCommand>& commands, std::size_t wanted,
+                                             const Counts& counts) {
+    std::vector<SessionCommand> found;
+    for (const auto& command : commands) {
+        if (found.size() == wanted) break;
+        if ((found.empty() || found.back().title != command.title) && counts(command)) found.push_back(command);
     }
     return found;
 }
@@ -148,18 +151,23 @@ SessionMenu readSessionMenu(std::optional<Desktop> desktop, SettingsSource& sour
     source.refresh();
     services.refresh();
     Bindings bindings(*desktop, rows, source);
-    SessionMenu menu{SessionMenuState::present, {}};
-    for (const auto& [role, wanted] :
-         {std::pair(SessionRole::lock, std::size_t{1}), std::pair(SessionRole::logOut, std::size_t{1}),
-          std::pair(SessionRole::further, furtherCommands)}) {
-        auto found = find(role, wanted, rows, bindings, services);
-        if (found.bound < wanted) menu.state = SessionMenuState::notBound;
-        const bool isMissed = found.commands.size() < wanted && menu.state == SessionMenuState::present;
-        if (isMissed) menu.state = SessionMenuState::noService;
-        std::ranges::move(found.commands, std::back_inserter(menu.commands));
+    std::vector<SessionCommand> bound[std::size(roles)];
+    bool isBound = true;
+    for (std::size_t i = 0; i < std::size(roles); ++i) {
+        bound[i] = boundCommands(roles[i].role, rows, bindings);
+        const auto titles = firstOfEachTitle(bound[i], roles[i].wanted, [](const auto&) { return true; });
+        isBound = isBound && titles.size() == roles[i].wanted;
     }
-    if (!bindings.isAnswered()) menu.state = SessionMenuState::noService;
-    if (menu.state != SessionMenuState::present) menu.commands.clear();
+    if (!bindings.isAnswered()) return {SessionMenuState::noService, {}};
+    if (!isBound) return {SessionMenuState::notBound, {}};
+
+    SessionMenu menu{SessionMenuState::present, {}};
+    for (std::size_t i = 0; i < std::size(roles); ++i) {
+        auto found = firstOfEachTitle(bound[i], roles[i].wanted,
+                                      [&services](const auto& command) { return services.isThere(command.deed); });
+        if (found.size() < roles[i].wanted) return {SessionMenuState::noService, {}};
+        std::ranges::move(found, std::back_inserter(menu.commands));
+    }
     return menu;
 }
 

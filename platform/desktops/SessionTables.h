@@ -39,7 +39,7 @@ enum class SessionRole { lock, logOut, further };
 
 struct SessionRow {
     SessionRole role;
-    std::string_view title;  // a key of the string table; rows of one title are ways to the same
+    std::string_view title;  // a key of the string table; rows of one title are ways to the same, and neighbours
     std::string_view place;  // a schema of GSettings; a component of KDE; "/xfwm4" or "/commands" of Xfce
     std::string_view name;   // a key; an action; a command line
     Performer performer;

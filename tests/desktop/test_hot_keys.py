@@ -214,8 +214,8 @@ class Faults(HotKeys):
         self.assert_rows_are_lost("The schema org.gnome.shell.keybindings is not installed",
                                   rows={name: keys for name, keys in GNOME.items() if name not in of_shell})
         self.start_in("MATE", **data)
-        self.assert_rows_are_lost("The schema org.mate.Marco.global-keybindings is not installed",
-                                  "The schema org.mate.SettingsDaemon.plugins.media-keys is not installed")
+        self.assert_rows_are_lost(*(f"The schema org.mate.{name} is not installed" for name in (
+            "SettingsDaemon.plugins.media-keys", "Marco.global-keybindings", "Marco.window-keybindings")))
 
     def test_a_session_bus_that_hangs_costs_the_rows_that_come_over_it(self):
         for desktop, rows in (("XFCE", {}), ("GNOME", GNOME)):
