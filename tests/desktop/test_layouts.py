@@ -52,6 +52,7 @@ class Layouts(DesktopTest):
 
     def open_panel(self, trigger=CTRL):
         self.wait_out_the_double_press()
+        self.program.wait_until_closed()
         since = self.program.log.mark()
         self.screen.double_press(trigger)
         self.program.log.wait_for(BUILDS, since)
@@ -62,13 +63,11 @@ class Layouts(DesktopTest):
         self.program.open_panel()
         places = {title: self.program.hover(title) for title in titles}
         self.screen.tap(self.screen.ESCAPE)
-        self.program.wait_until_closed()
         return places
 
     def click(self, place):
         since = self.program.log.mark()
         self.screen.click(*place)
-        self.program.wait_until_closed()
         return since
 
     def assert_arrives(self, title, words):
