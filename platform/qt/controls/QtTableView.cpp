@@ -46,6 +46,7 @@ public:
         rows_.rows.clear();
         const int count = delegate.numberOfRowsInTableView(*this);
         for (int i = 0; i < count; ++i) addRow(i);
+        if (native() != nullptr) native()->setMinimumWidth(rows_.neededWidth());
     }
 
     void setIntercellSpacing(Size spacing) override {

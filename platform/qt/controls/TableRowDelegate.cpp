@@ -22,6 +22,16 @@ constexpr double focusWidth = 2;
 
 TableRowDelegate::TableRowDelegate(QListView& list) : list_(list) {}
 
+int TableRowDelegate::neededWidth() const {
+    list_.ensurePolished();
+    int widest = 0;
+    for (const Row& row : rows) {
+        const int text = list_.fontMetrics().horizontalAdvance(QString::fromStdString(row.cell.text));
+        widest = std::max(widest, text + (row.cell.image.empty() ? 0 : imageSize + imageGap));
+    }
+    return widest + 2 * cellMargin;
+}
+
 void TableRowDelegate::place(int row, const QRect& rect) {
     TableRowView& view = *rows[static_cast<std::size_t>(row)].view;
     const Size oldSize = view.frame().size();

@@ -30,6 +30,8 @@ public:
     std::vector<Row> rows;
     double spacing = 0;  // points, half of it above a cell and half below
 
+    /// Points within which no row's text is shortened.
+    int neededWidth() const;
     /// Gives the row's view its place in the list; a new size renews its tracking areas.
     void place(int row, const QRect& rect);
     /// Where the pointer is over the list; null means outside.
