@@ -11,6 +11,17 @@ namespace {
 constexpr double sideRoom = 16;
 constexpr double barRoom = 96;
 
+// A window never wants more than the screen has beside its title bar and the desktop's panels.
+Size fitted(Size wanted, const Screen& screen) {
+    return {std::min(wanted.width, screen.frame.width - sideRoom),
+            std::min(wanted.height, screen.frame.height - barRoom)};
+}
+
+bool isOnAScreen(Point point) {
+    return std::ranges::any_of(WindowSystem::shared().screens(),
+                               [point](const Screen& screen) { return screen.frame.contains(point); });
+}
+
 }  // namespace
 
 InterfaceWindowController::InterfaceWindowController(std::string interfaceName,
@@ -24,13 +35,23 @@ InterfaceWindowController::~InterfaceWindowController() {
 }
 
 void InterfaceWindowController::showWindow() {
-    if (ownWindow_ == nullptr) loadWindow();
+    ownWindow_ == nullptr ? loadWindow() : returnToAScreen();
     ownWindow_->makeKeyAndOrderFront();
 }
 
+// The screen that the window was on may be gone since.
+void InterfaceWindowController::returnToAScreen() {
+    const Rect& frame = ownWindow_->frame();
+    if (isOnAScreen({frame.x + frame.width / 2, frame.y + frame.height / 2})) return;
+    const auto screen = WindowSystem::shared().mainScreen();
+    if (!screen) return;
+    ownWindow_->minSize = fitted(ownWindow_->minSize, *screen);
+    ownWindow_->setContentSize(fitted(frame.size(), *screen));
+    ownWindow_->center();
+}
+
 // A file that does not describe a window still leaves the user one to close. A window shows all of its view, also where
-// the user's language or type needs more room than the file has, but never wants more than the screen has beside its
-// title bar and the desktop's panels.
+// the user's language or type needs more room than the file has.
 WindowDescription InterfaceWindowController::describe() {
     WindowDescription description = InterfaceFiles::shared().window(interfaceName_);
     const Size view = content_->view().size();
@@ -41,11 +62,8 @@ WindowDescription InterfaceWindowController::describe() {
     description.contentSize.height = std::max(description.contentSize.height, view.height);
     const auto screen = WindowSystem::shared().mainScreen();
     if (!screen) return description;
-    const Size room{screen->frame.width - sideRoom, screen->frame.height - barRoom};
-    for (Size* const size : {&description.contentSize, &description.minSize}) {
-        size->width = std::min(size->width, room.width);
-        size->height = std::min(size->height, room.height);
-    }
+    description.contentSize = fitted(description.contentSize, *screen);
+    description.minSize = fitted(description.minSize, *screen);
     return description;
 }
 

@@ -15,7 +15,8 @@ public:
     ~InterfaceWindowController() override;
 
     ViewController& contentViewController() { return *content_; }
-    /// Loads the window at the first call, then windowDidLoad runs; brings it to the front, with the focus.
+    /// Loads the window at the first call, then windowDidLoad runs; brings it to the front, with the focus. Later, a
+    /// window whose middle no screen shows any more goes to the middle of the main screen.
     void showWindow();
 
     virtual void windowDidLoad() {}
@@ -23,6 +24,7 @@ public:
 private:
     WindowDescription describe();
     void loadWindow();
+    void returnToAScreen();
 
     std::string interfaceName_;
     std::unique_ptr<ViewController> content_;

@@ -86,6 +86,20 @@ TEST_F(PreferencesTest, TheWindowOpensCentredNamesTheVersionAndIsKeptWhenItClose
     EXPECT_EQ(files.control<FakeTextField>("productVersionTextField").text, "Orlamo 1.2.3");
 }
 
+TEST_F(PreferencesTest, AWindowWhoseScreenIsGoneComesBackOnTheOneThatIsLeft) {
+    desktop.windows.others = {Screen{{1440, 0, 1280, 1024}, "Second screen"}};
+    Preferences preferences;
+    preferences.showWindow();
+    const Rect there{1500, 100, 800, 560};
+    preferences.window()->frameChangedByUser(there);
+    preferences.showWindow();
+    EXPECT_EQ(preferences.window()->frame(), there);
+    desktop.windows.others.clear();
+    desktop.windows.main = Screen{{0, 0, 720, 450}, "Test screen"};
+    preferences.showWindow();
+    EXPECT_EQ(preferences.window()->frame(), (Rect{8, 48, 704, 354}));
+}
+
 using Fills = std::vector<RecordingGraphicsContext::Fill>;
 
 Fills drawn(LCCustomTableRowView& row) {
