@@ -4,7 +4,7 @@
 
 namespace orlamo {
 
-/// Points are logical pixels; y grows upward. On screen the origin is the main screen's lower left corner.
+/// Points are logical pixels; y grows upward. On screen the origin is the primary screen's lower left corner.
 struct Point {
     double x = 0;
     double y = 0;

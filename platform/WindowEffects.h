@@ -41,6 +41,8 @@ public:
     virtual void blurBehind(NativeWindow window, int width, int height, int radius) = 0;
     /// What the screen shows there now. Parts beyond the screen are black. None when it cannot be read.
     virtual std::optional<PixelImage> copyScreen(const PixelRect& area) = 0;
+    /// Where the window lies that the user's keys go to; none when no window has them.
+    virtual std::optional<PixelRect> focusedArea() { return std::nullopt; }
     /// Cuts the window, and the presses it takes, to a rounded rectangle. Sizes in device pixels.
     virtual void shapeRounded(NativeWindow window, int width, int height, int radius) = 0;
     /// Gives a visible window the input focus; remembers which window had it, for Workspace to return it. Where a

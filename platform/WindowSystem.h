@@ -13,7 +13,7 @@ namespace orlamo {
 class Window;
 
 struct Screen {
-    Rect frame;                 // points, in screen coordinates
+    Rect frame;                 // points; the primary screen's has its origin at 0, 0
     std::string localizedName;  // as the desktop names its output
 };
 
@@ -40,6 +40,8 @@ public:
 
     /// `window` outlives its host.
     virtual std::unique_ptr<WindowHost> createHost(Window& window) = 0;
+    /// The screen with the window that has the keyboard focus, the program's own included; without one, the screen that
+    /// the desktop calls its primary.
     virtual std::optional<Screen> mainScreen() = 0;
     virtual std::vector<Screen> screens() = 0;
     /// The pointer, in screen points.

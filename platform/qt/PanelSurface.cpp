@@ -8,6 +8,7 @@
 #include <QMetaObject>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QSurfaceFormat>
 #include <cstdlib>
 
@@ -23,6 +24,22 @@ PanelSurface::PanelSurface(Listener& listener, Look look, Stacking stacking)
     QSurfaceFormat wanted = format();
     wanted.setAlphaBufferSize(look == Look::translucent ? 8 : 0);
     setFormat(wanted);
+    watchScreens();
+}
+
+void PanelSurface::watchScreens() {
+    const auto changed = [this] {
+        if (listener_ != nullptr) listener_->screensChanged();
+    };
+    const auto watch = [this, changed](QScreen* screen) {
+        connect(screen, &QScreen::geometryChanged, this, changed);
+        connect(screen, &QScreen::logicalDotsPerInchChanged, this, changed);
+    };
+    for (QScreen* const screen : QGuiApplication::screens()) watch(screen);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, watch);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, changed);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, changed);
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, changed);
 }
 
 void PanelSurface::retire() {

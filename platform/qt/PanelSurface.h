@@ -22,6 +22,8 @@ public:
         virtual void pointerMoved(QPointF position) = 0;
         virtual void pointerLeft() = 0;
         virtual void pointerPressed(QPointF position) = 0;
+        /// A screen came, went or changed, or another one is the primary one now.
+        virtual void screensChanged() = 0;
         /// The turn of the event loop that callBack asked for.
         virtual void calledBack() = 0;
     };
@@ -48,6 +50,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void watchScreens();
     void pointerEntered(const QEnterEvent& event);
 
     Listener* listener_;

@@ -1,6 +1,5 @@
 #include "platform/qt/QtWindowHost.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 #include <QRegion>
 #include <QScreen>
@@ -26,16 +25,6 @@ constexpr double largestNativePixels = 8192;
 
 const VisualEffectView* effectView(const Window& window) {
     return dynamic_cast<const VisualEffectView*>(window.contentView());
-}
-
-QRect mainScreenRect() {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? screen->geometry() : QRect();
-}
-
-QRect desktopRect() {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? screen->virtualGeometry() : QRect();
 }
 
 QRect toQRect(const PixelRect& r) {
@@ -90,7 +79,6 @@ void QtWindowHost::orderFront() {
     native_ = {};
     place();
     surface_->create();
-    scale_ = surface_->devicePixelRatio();
     makeBackdrop();
     // The picture follows the map in the same stream of requests: the window is never seen without it.
     surface_->setVisible(true);
@@ -123,21 +111,24 @@ void QtWindowHost::calledBack() {
 
 // Moves and sizes the native window as the frame says. True when that changed anything.
 bool QtWindowHost::place() {
-    whole_ = toQt(window_.frame(), mainScreenRect());
-    QRect native = whole_;
+    whole_ = toQt(window_.frame(), primaryScreenRect());
+    // The screen decides about the scale, and what the window's geometry means.
+    if (QScreen* const screen = screenWithMiddleOf(whole_)) surface_->setScreen(screen);
     const double scale = surface_->devicePixelRatio();
+    QRect native = whole_;
     if (std::max(whole_.width(), whole_.height()) * scale > largestNativePixels) {
-        native = whole_.intersected(desktopRect());
+        native = whole_.intersected(fromDevicePixels(desktopPixels(), *surface_->screen()));
         if (native.isEmpty()) native = QRect(whole_.topLeft(), QSize(1, 1));
     }
     const QPoint cut = native.topLeft() - whole_.topLeft();
-    if (native == native_ && cut == cut_) return false;
+    if (native == native_ && cut == cut_ && scale == scale_) return false;
     if (native != whole_) {
         logLine("window: " + std::to_string(whole_.width()) + " by " + std::to_string(whole_.height()) +
                 " points are more than can be shown; only what lies on the screen is");
     }
     native_ = native;
     cut_ = cut;
+    scale_ = scale;
     surface_->setGeometry(native);
     return true;
 }
@@ -174,8 +165,7 @@ void QtWindowHost::makeBackdrop() {
     }
 
     const bool needsScreen = !isComposited_ || (blurs && style.behind != BackdropStyle::Behind::blurred);
-    const QRect desktop = toQRect(toDevicePixels(desktopRect(), *surface_->screen()));
-    const QRect visible = toQRect(native).intersected(desktop);
+    const QRect visible = toQRect(native).intersected(toQRect(desktopPixels()));
     QImage screen;
     if (needsScreen && !visible.isEmpty()) {
         screen = capture_.behind({visible.x(), visible.y(), visible.width(), visible.height()});
@@ -226,15 +216,25 @@ void QtWindowHost::exposed() {
         surface_->showAgain();
         return;
     }
-    scale_ = surface_->devicePixelRatio();
-    place();
+    if (!place()) return;
     makeBackdrop();
     paintAll();
 }
 
-// Qt names a pixel by its upper left corner, the window's coordinates by the lower left one.
+// Where the window belongs now is said by the next pass.
+void QtWindowHost::screensChanged() {
+    if (View* const content = window_.contentView()) content->setNeedsDisplay(true);
+}
+
+// Qt names a pixel by its upper left corner, the window's coordinates by the lower left one. At scales such as 1.25
+// edges are painted at the nearest pixel: there a pixel is whose its middle is, and a middle right on an edge counts as
+// left of it or above, since painting rounds up.
 Point QtWindowHost::toWindow(QPointF position) const {
-    return {position.x() + cut_.x(), window_.frame().height - (position.y() + cut_.y()) - 1 / scale_};
+    constexpr double nearlyHalf = 0.5 - 1.0 / 1024;
+    const bool isWhole = scale_ == std::floor(scale_);
+    const double right = isWhole ? 0 : nearlyHalf / scale_;
+    const double down = isWhole ? 1 / scale_ : nearlyHalf / scale_;
+    return {position.x() + cut_.x() + right, window_.frame().height - (position.y() + cut_.y()) - down};
 }
 
 void QtWindowHost::pointerMoved(QPointF position) {

@@ -38,6 +38,7 @@ private:
     void pointerLeft() override;
     void pointerPressed(QPointF position) override;
     void calledBack() override;
+    void screensChanged() override;
 
     void runPass();
     void scheduleUpdate();

@@ -1,8 +1,8 @@
 #include "platform/qt/QtWindowSystem.h"
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
+#include <optional>
 
 #include "platform/Window.h"
 #include "platform/qt/QtWindowHost.h"
@@ -12,14 +12,22 @@ namespace orlamo::qt {
 
 namespace {
 
-Screen describe(const QScreen& screen, const QRect& main) {
-    return {fromQt(screen.geometry(), main), screen.name().toStdString()};
+// Qt keeps a screen of no size while the display has none.
+bool isUsable(const QScreen* screen) {
+    return screen != nullptr && !screen->geometry().isEmpty();
 }
 
-// Qt keeps a screen of no size while the display has none.
-const QScreen* usableMainScreen() {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    return screen != nullptr && !screen->geometry().isEmpty() ? screen : nullptr;
+Screen describe(const QScreen& screen) {
+    return {fromQt(screen.geometry(), primaryScreenRect()), screen.name().toStdString()};
+}
+
+// The one where the user works: where the window lies that the keys go to. Where no window has them, the desktop's
+// primary screen.
+const QScreen* screenInUse() {
+    const auto focused =
+        WindowEffects::isInstalled() ? WindowEffects::shared().focusedArea() : std::optional<PixelRect>();
+    const QScreen* const screen = focused ? screenOf(*focused) : nullptr;
+    return isUsable(screen) ? screen : QGuiApplication::primaryScreen();
 }
 
 }  // namespace
@@ -30,22 +38,20 @@ std::unique_ptr<WindowHost> QtWindowSystem::createHost(Window& window) {
 }
 
 std::optional<Screen> QtWindowSystem::mainScreen() {
-    const QScreen* const main = usableMainScreen();
-    if (main == nullptr) return std::nullopt;
-    return describe(*main, main->geometry());
+    const QScreen* const screen = screenInUse();
+    return isUsable(screen) ? std::optional(describe(*screen)) : std::nullopt;
 }
 
 std::vector<Screen> QtWindowSystem::screens() {
     std::vector<Screen> all;
-    const QScreen* const main = usableMainScreen();
-    if (main == nullptr) return all;
-    for (const QScreen* screen : QGuiApplication::screens()) all.push_back(describe(*screen, main->geometry()));
+    for (const QScreen* const screen : QGuiApplication::screens()) {
+        if (isUsable(screen)) all.push_back(describe(*screen));
+    }
     return all;
 }
 
 Point QtWindowSystem::mouseLocation() {
-    const QScreen* const main = usableMainScreen();
-    return main != nullptr ? fromQt(QCursor::pos(), main->geometry()) : Point{};
+    return fromQt(pointerPosition(), primaryScreenRect());
 }
 
 }  // namespace orlamo::qt

@@ -80,6 +80,13 @@ std::optional<PixelImage> WindowEffects::copyScreen(const PixelRect& area) {
     return copyScreenArea(connection_, area);
 }
 
+std::optional<PixelRect> WindowEffects::focusedArea() {
+    const auto focus = windows_.focus();
+    if (focus && *focus != keeper_ && windows_.isOwn(*focus)) return windows_.area(*focus);
+    const auto frontmost = windows_.frontmostWindow();
+    return frontmost ? windows_.area(*frontmost) : std::nullopt;
+}
+
 void WindowEffects::shapeRounded(NativeWindow window, int width, int height, int radius) {
     if (!connection_.extensions().shape) return;  // said once, at the start
     std::vector<xcb_rectangle_t> rectangles;

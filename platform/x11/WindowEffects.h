@@ -16,6 +16,7 @@ public:
     bool canBlurBehind() override;
     void blurBehind(NativeWindow window, int width, int height, int radius) override;
     std::optional<PixelImage> copyScreen(const PixelRect& area) override;
+    std::optional<PixelRect> focusedArea() override;
     void shapeRounded(NativeWindow window, int width, int height, int radius) override;
     /// A window that is not on the screen yet gets the focus as soon as it is.
     void giveFocus(NativeWindow window) override;

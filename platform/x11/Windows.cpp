@@ -138,6 +138,23 @@ std::optional<xcb_window_t> Windows::activeWindow() {
     return active.front();
 }
 
+std::optional<xcb_window_t> Windows::frontmostWindow() {
+    if (const auto active = activeWindow()) return active;
+    if (hasWindowManager()) return std::nullopt;
+    const auto focused = focus();
+    if (!focused) return std::nullopt;
+    return applicationWindow(*focused);
+}
+
+std::optional<PixelRect> Windows::area(xcb_window_t window) {
+    const auto sizeCookie = xcb_get_geometry(connection_.xcb(), window);
+    const auto placeCookie = xcb_translate_coordinates(connection_.xcb(), window, connection_.root(), 0, 0);
+    const auto size = connection_.reply(xcb_get_geometry_reply, sizeCookie);
+    const auto place = connection_.reply(xcb_translate_coordinates_reply, placeCookie);
+    if (!size || !place) return std::nullopt;
+    return PixelRect{place->dst_x, place->dst_y, size->width, size->height};
+}
+
 std::vector<xcb_window_t> Windows::stackedWindows() {
     if (hasWindowManager()) {
         auto stacked = numbers(connection_.root(), "_NET_CLIENT_LIST_STACKING");

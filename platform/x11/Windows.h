@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/WindowEffects.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/FocusMemory.h"
 
@@ -40,6 +41,10 @@ public:
     /// _NET_ACTIVE_WINDOW of a window manager that is running; none when it has none or there is no such manager.
     std::optional<xcb_window_t> activeWindow();
     bool hasWindowManager();
+    /// The active window; without a window manager the application window with the input focus.
+    std::optional<xcb_window_t> frontmostWindow();
+    /// Where a window lies on the screen, without its border; none when it is gone.
+    std::optional<PixelRect> area(xcb_window_t window);
     /// Application windows, bottom to top.
     std::vector<xcb_window_t> stackedWindows();
     /// The application window that holds a window or is it; the window itself when there is none.

@@ -27,19 +27,11 @@ RunningApplication Workspace::describe(xcb_window_t window) {
     return application;
 }
 
-std::optional<xcb_window_t> Workspace::frontmostWindow() {
-    if (const auto active = windows_.activeWindow()) return active;
-    if (windows_.hasWindowManager()) return std::nullopt;
-    const auto focus = windows_.focus();
-    if (!focus) return std::nullopt;
-    return windows_.applicationWindow(*focus);
-}
-
 std::optional<RunningApplication> Workspace::frontmostApplication() {
     const FocusHolder holder = windows_.focusHolder();
     if (!connection_.isAlive()) return std::nullopt;
     if (memory_.isFrontmost(holder)) return ownApplication();
-    const auto window = frontmostWindow();
+    const auto window = windows_.frontmostWindow();
     if (!window) return std::nullopt;
     RunningApplication application = describe(*window);
     if (application.processIdentifier == 0) return std::nullopt;
@@ -53,7 +45,7 @@ std::vector<xcb_window_t> Workspace::recentWindows() {
         const auto found = std::ranges::find(recent, window);
         if (found != recent.end()) std::rotate(recent.begin(), found, found + 1);
     };
-    if (const auto window = frontmostWindow()) moveToFront(*window);
+    if (const auto window = windows_.frontmostWindow()) moveToFront(*window);
     if (const auto former = memory_.former()) moveToFront(windows_.applicationWindow(former->window));
     return recent;
 }

@@ -37,7 +37,6 @@ public:
 private:
     RunningApplication ownApplication() const;
     RunningApplication describe(xcb_window_t window);
-    std::optional<xcb_window_t> frontmostWindow();
     /// Application windows, the most recently active first.
     std::vector<xcb_window_t> recentWindows();
     bool returnFocus(int processIdentifier);

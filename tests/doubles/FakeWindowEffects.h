@@ -22,6 +22,7 @@ public:
         }
         return image;
     }
+    std::optional<PixelRect> focusedArea() override { return focusedWindow; }
     void shapeRounded(NativeWindow, int, int, int radius) override { shapes.push_back(radius); }
     void giveFocus(NativeWindow window) override { focused.push_back(window); }
     void introduce(NativeWindow, std::string_view, Listing listing) override { listings.push_back(listing); }
@@ -29,6 +30,7 @@ public:
     bool composited = false;
     bool blurs = false;
     std::function<std::uint32_t(int x, int y)> screen;  // 0xffRRGGBB; unset: cannot be read
+    std::optional<PixelRect> focusedWindow;
     int blurRequests = 0;
     std::vector<PixelRect> copies;
     std::vector<int> shapes;

@@ -1,7 +1,5 @@
 #include "platform/qt/controls/QtControlsWindowHost.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <cmath>
 
 #include "platform/ViewController.h"
@@ -13,11 +11,6 @@
 namespace orlamo::qt {
 
 namespace {
-
-QRect mainScreenRect() {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? screen->geometry() : QRect();
-}
 
 Qt::WindowFlags flags(const Window& window) {
     const auto has = [&window](unsigned bit) { return (window.styleMask() & bit) != 0; };
@@ -81,7 +74,7 @@ void QtControlsWindowHost::create() {
 }
 
 void QtControlsWindowHost::place() {
-    const QRect frame = toQt(window_.frame(), mainScreenRect());
+    const QRect frame = toQt(window_.frame(), primaryScreenRect());
     isPlacing_ = true;
     if ((window_.styleMask() & Window::resizable) == 0) {
         shell_->setFixedSize(frame.size());
@@ -125,7 +118,7 @@ void QtControlsWindowHost::orderOut() {
 
 void QtControlsWindowHost::geometryChanged() {
     if (isPlacing_ || shell_ == nullptr || !shell_->isVisible()) return;
-    window_.frameChangedByUser(fromQt(shell_->geometry(), mainScreenRect()));
+    window_.frameChangedByUser(fromQt(shell_->geometry(), primaryScreenRect()));
     cutCorners();
 }
 

@@ -1,6 +1,8 @@
 #include <QExposeEvent>
 #include <QMouseEvent>
 #include <QWindow>
+#include <cmath>
+#include <tuple>
 
 #include "platform/VisualEffectView.h"
 #include "platform/Window.h"
@@ -113,6 +115,68 @@ TEST_F(Host, AResizeOutsideOfAPassMovesTheWindowKeepingItsTop) {
     turnEventLoop();
     EXPECT_EQ(native().geometry(), QRect(100, top, 320, 150));
     EXPECT_EQ(view->passes, 1);
+}
+
+TEST_F(Host, TheMainScreenIsTheOneOfTheWindowWithTheKeyboard) {
+    const struct {
+        std::optional<PixelRect> focused;
+        const char* screen;
+    } cases[] = {
+        {std::nullopt, "main"},
+        {PixelRect{100, 100, 300, 200}, "main"},
+        {PixelRect{1900, 700, 50, 40}, "side"},
+        {PixelRect{700, 100, 300, 200}, "side"},   // its middle is there
+        {PixelRect{1990, 100, 300, 200}, "side"},  // its middle is nowhere
+        {PixelRect{-1, -1, 1, 1}, "main"},
+    };
+    for (const auto& [focused, screen] : cases) {
+        effects.focusedWindow = focused;
+        EXPECT_EQ(system.mainScreen()->localizedName, screen);
+    }
+}
+
+TEST_F(Host, APanelStandsInTheMiddleOfTheMainScreenInThatScreensPixels) {
+    effects.screen = [](int, int) { return 0xffffffffU; };
+    effects.focusedWindow = PixelRect{1000, 100, 300, 200};
+    auto material = std::make_unique<VisualEffectView>(Rect{});
+    material->maskImage = VisualEffectView::MaskImage{{300, 200}, 30, Color::black(), false};
+    View* const panel = material.get();
+    window.setContentView(std::move(material));
+    window.center();
+    show();
+    const auto expectCopied = [this](const PixelRect& area) {
+        const PixelRect& copied = effects.copies.back();
+        EXPECT_EQ(std::tie(copied.x, copied.y, copied.width, copied.height),
+                  std::tie(area.x, area.y, area.width, area.height));
+    };
+    expectCopied({800 + 375, 225, 450, 300});
+    EXPECT_EQ(effects.shapes.back(), 45);
+
+    // The screen is gone, and with it the window that had the keyboard.
+    effects.focusedWindow.reset();
+    emit qGuiApp->primaryScreenChanged(QGuiApplication::primaryScreen());
+    EXPECT_TRUE(panel->needsDisplay()) << "a pass will say where the panel belongs now";
+    window.center();
+    turnEventLoop();
+    expectCopied({250, 300, 300, 200});
+    EXPECT_EQ(effects.shapes.back(), 30);
+}
+
+TEST_F(Host, AtAFractionalScaleAPressBelongsToWhatIsPaintedThere) {
+    effects.focusedWindow = PixelRect{1000, 100, 300, 200};
+    window.center();
+    show();
+    const double scale = native().devicePixelRatio();
+    ASSERT_EQ(scale, 1.5);
+    for (int edge = 1; edge < 40; ++edge) {
+        const double painted = std::round(edge * scale);
+        send(QEvent::MouseButtonPress, {painted / scale, painted / scale});
+        EXPECT_GE(view->pressed->x, edge);
+        EXPECT_LT(view->pressed->y, 200 - edge);
+        send(QEvent::MouseButtonPress, {(painted - 1) / scale, (painted - 1) / scale});
+        EXPECT_LT(view->pressed->x, edge);
+        EXPECT_GE(view->pressed->y, 200 - edge);
+    }
 }
 
 TEST_F(Host, ThePointersHeightIsCountedFromTheBottom) {
