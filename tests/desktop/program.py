@@ -174,8 +174,8 @@ class Program:
         """Moves the pointer over the panel until the log names that cell; returns the pointer's position."""
         since = self.log.mark()
         x, y, width, height = self.panel_area()
-        for column in range(x + 60, x + width, 90):
-            for row in range(y + 40, y + height, 12):
+        for column in range(max(x, 0) + 60, min(x + width, self.session.screen.width), 90):
+            for row in range(max(y, 0) + 40, min(y + height, self.session.screen.height), 12):
                 if self._title_at(column, row) == title:
                     return column, row
         seen = {match[1] for match in map(CELL.search, self.log.lines(since)) if match}

@@ -1,7 +1,7 @@
 """One X display as a user has it: keys, pointer, windows, what is seen. Positions are pixels from the top left."""
 import time
 
-from PIL import Image
+from PIL import Image, ImageChops
 from Xlib import X, XK, Xatom, display, error
 from Xlib.ext import xtest
 from Xlib.protocol import event as events
@@ -251,3 +251,12 @@ def near(colour, wanted, tolerance=12):
 def count_near(picture, wanted, tolerance=12):
     """How many pixels have about that colour."""
     return sum(count for count, colour in picture.getcolors(1 << 24) if near(colour, wanted, tolerance))
+
+
+def box_near(picture, wanted, tolerance=12):
+    """(left, top, right, bottom) of the smallest box around all pixels of about that colour; None without any."""
+    found = None
+    for band, value in zip(picture.split(), wanted):
+        part = band.point(lambda seen, value=value: 255 * (abs(seen - value) <= tolerance))
+        found = ImageChops.multiply(found, part) if found else part
+    return found.getbbox()

@@ -1,8 +1,6 @@
 """What the panel looks like on the screen."""
-from PIL import ImageChops
-
 from case import DesktopTest
-from screen import count_near, near, wait_until
+from screen import box_near, count_near, near, wait_until
 
 BEHIND = (200, 40, 120)
 TEAL = (106, 196, 220)
@@ -88,8 +86,4 @@ class Look(DesktopTest):
         wait_until(lambda: not self.blue_box(area), 5, "end of blue")
 
     def blue_box(self, area):
-        """The smallest rectangle around all blue pixels of the panel; None when there is none."""
-        bands = self.screen.picture(area).split()
-        near_blue = [band.point(lambda value, wanted=wanted: 255 * (abs(value - wanted) <= 12))
-                     for band, wanted in zip(bands, BLUE)]
-        return ImageChops.multiply(ImageChops.multiply(*near_blue[:2]), near_blue[2]).getbbox()
+        return box_near(self.screen.picture(area), BLUE)
