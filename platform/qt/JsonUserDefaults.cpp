@@ -35,18 +35,37 @@ void JsonUserDefaults::complain(const std::string& error) {
 }
 
 JsonUserDefaults::Parsed JsonUserDefaults::parse(const SettingsFile::Content& content) {
-    if (content.state == SettingsFile::State::unreadable) complain(content.error);
-    if (content.state != SettingsFile::State::read || content.text.empty()) return {};
-    auto settings = SettingsJson::parse(content.text);
-    if (settings) return {std::move(*settings), false};
-    complain(file_.path().string() + " is damaged and reads as empty; it will be kept aside before the next write");
-    return {{}, true};
+    Parsed parsed;
+    if (content.state == SettingsFile::State::unreadable) {
+        complain(content.error);
+        parsed.isKnown = false;
+    }
+    if (content.state != SettingsFile::State::read || content.text.empty()) return parsed;
+    if (auto settings = SettingsJson::parse(content.text)) {
+        parsed.settings = std::move(*settings);
+    } else {
+        complain(file_.path().string() + " is damaged and reads as empty; it will be kept aside before the next write");
+        parsed.isDamaged = true;
+    }
+    return parsed;
 }
 
 void JsonUserDefaults::refresh() {
     if (wasRead_ && !file_.hasChanged()) return;
-    wasRead_ = true;
-    stored_ = parse(file_.read()).settings;
+    Parsed parsed = parse(file_.read());
+    wasRead_ = parsed.isKnown;
+    if (!wasRead_) return;
+    forgetUnfoundedValues(parsed.settings);
+    stored_ = std::move(parsed.settings);
+}
+
+void JsonUserDefaults::forgetUnfoundedValues(const SettingsJson& stored) {
+    isKnown_ = true;
+    for (const std::string& key : std::exchange(unfounded_, {})) {
+        if (stored.value(key) == Value{}) continue;
+        unsaved_.erase(key);
+        logLine("settings: " + key + " stays as stored; it was set while the file could not be read");
+    }
 }
 
 bool JsonUserDefaults::flush() {
@@ -55,6 +74,7 @@ bool JsonUserDefaults::flush() {
     const std::string error = file_.replace([&](const SettingsFile::Content& content) {
         Parsed parsed = parse(content);
         merged = std::move(parsed.settings);
+        forgetUnfoundedValues(merged);
         const SettingsJson before = merged;
         for (const auto& [key, value] : unsaved_) merged.setValue(key, value);
         SettingsFile::Replacement replacement;
@@ -76,8 +96,8 @@ bool JsonUserDefaults::flush() {
 }
 
 UserDefaults::Value JsonUserDefaults::objectForKey(std::string_view key) {
-    if (const auto found = unsaved_.find(key); found != unsaved_.end()) return found->second;
     refresh();
+    if (const auto found = unsaved_.find(key); found != unsaved_.end()) return found->second;
     return stored_.value(key);
 }
 
@@ -90,6 +110,8 @@ void JsonUserDefaults::setObject(std::string_view key, Value value) {
     const auto observed = observed_.find(name);
     if (observed != observed_.end()) observed->second = value;
     unsaved_.insert_or_assign(name, std::move(value));
+    if (!isKnown_) refresh();
+    if (!isKnown_) unfounded_.insert(name);
     flush();
     if (observed == observed_.end()) return;
     if (!watch_.isWatching()) watch();  // the folder may exist only now
@@ -102,7 +124,10 @@ void JsonUserDefaults::willObserveKey(const std::string& key) {
 }
 
 void JsonUserDefaults::watch() {
-    watch_.start(file_.path(), [this] { fileMayHaveChanged(); });
+    const bool watches = watch_.start(file_.path(), [this] { fileMayHaveChanged(); });
+    std::error_code code;
+    if (watches || !std::filesystem::exists(file_.path().parent_path(), code)) return;
+    complain("the system watches no more folders: changes made by other programs are noticed late");
 }
 
 // Some programs remove or empty a file before they write it anew: what stands there a moment later is what they mean.

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "platform/UserDefaults.h"
@@ -15,7 +16,8 @@ namespace orlamo::qt {
 std::filesystem::path settingsPath();
 
 /// Settings in one JSON file, see SettingsJson and SettingsFile. A damaged file reads as empty and is kept aside before
-/// it is replaced.
+/// it is replaced. What was set while the file could not be read even once does not replace what it turns out to hold:
+/// it may be a first value, set because nothing seemed to be stored.
 class JsonUserDefaults final : public UserDefaults {
 public:
     explicit JsonUserDefaults(std::filesystem::path path) : file_(std::move(path)) {}
@@ -32,11 +34,13 @@ private:
     struct Parsed {
         SettingsJson settings;
         bool isDamaged = false;
+        bool isKnown = true;  // false when the file could not be read
     };
 
     Parsed parse(const SettingsFile::Content& content);
     void refresh();
     bool flush();
+    void forgetUnfoundedValues(const SettingsJson& stored);
     void complain(const std::string& error);
     void watch();
     void fileMayHaveChanged();
@@ -44,7 +48,9 @@ private:
 
     SettingsFile file_;
     bool wasRead_ = false;
+    bool isKnown_ = false;  // what the file holds; stays so when it cannot be read any more
     SettingsJson stored_;
+    std::set<std::string, std::less<>> unfounded_;       // of unsaved_: set before isKnown_
     std::map<std::string, Value, std::less<>> unsaved_;  // set here and not on the disk yet
     std::string lastComplaint_;
     FileWatch watch_;

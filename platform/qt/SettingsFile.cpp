@@ -7,9 +7,10 @@
 #include <cstring>
 #include <ctime>
 
-#include "platform/qt/FileReplacement.h"
-
 namespace orlamo::qt {
+
+using files::FileDescriptor;
+using files::Replaced;
 
 namespace {
 
@@ -30,27 +31,10 @@ std::string errorText(const std::string& what, int code) {
     return what + ": " + std::strerror(code);
 }
 
-// False with errno on an error; a file that grows beyond `largestSize` is one.
-bool readAll(int descriptor, std::string& text) {
-    char buffer[16384];
-    for (;;) {
-        const ssize_t count = ::read(descriptor, buffer, sizeof buffer);
-        if (count == 0) return true;
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return false;
-        text.append(buffer, static_cast<std::size_t>(count));
-        if (text.size() > largestSize) {
-            errno = EFBIG;
-            return false;
-        }
-    }
-}
-
 }  // namespace
 
 SettingsFile::Stamp SettingsFile::stampOf(const struct stat& status) {
-    return {true,          status.st_dev, status.st_ino, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim),
-            status.st_size};
+    return {files::identityOf(status), nanoseconds(status.st_ctim)};
 }
 
 SettingsFile::Stamp SettingsFile::presentStamp() const {
@@ -60,16 +44,23 @@ SettingsFile::Stamp SettingsFile::presentStamp() const {
 
 void SettingsFile::remember(const Stamp& stamp) {
     stamp_ = stamp;
-    stampIsFinal_ = !stamp.exists || now() - stamp.changed > clockTick;
+    stampIsFinal_ = !stamp.file.exists || now() - stamp.changed > clockTick;
 }
 
 bool SettingsFile::hasChanged() const {
     return !stampIsFinal_ || !(presentStamp() == stamp_);
 }
 
-SettingsFile::Content SettingsFile::read() {
+FileDescriptor SettingsFile::openForReading() const {
     // Not blocking: a pipe may stand there.
-    const FileDescriptor file(open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    return FileDescriptor(files::uninterrupted([&] { return open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
+}
+
+SettingsFile::Content SettingsFile::read() {
+    return read(openForReading());
+}
+
+SettingsFile::Content SettingsFile::read(const FileDescriptor& file) {
     if (!file.isOpen()) {
         const int code = errno;
         remember(presentStamp());
@@ -82,28 +73,45 @@ SettingsFile::Content SettingsFile::read() {
     remember(stampOf(status));
     if (!S_ISREG(status.st_mode)) return {State::unreadable, {}, path_.string() + " is not a file"};
     Content content{State::read, {}, {}};
-    if (!readAll(file.get(), content.text)) {
+    if (!files::readAll(file, largestSize, content.text)) {
         return {State::unreadable, {}, errorText("cannot read " + path_.string(), errno)};
     }
     return content;
 }
 
 std::string SettingsFile::replace(const std::function<Replacement(const Content&)>& merge) {
-    std::string error;
-    const std::filesystem::path target = followLinks(path_, error);
-    if (!error.empty()) return error;
-    if (error = makePrivateFolder(target.parent_path()); !error.empty()) return error;
-    const FileDescriptor lock = lockBeside(target, error);
-    if (!error.empty()) return error;
+    // Only somebody who takes no lock can come between.
+    constexpr int mostAttempts = 50;
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        std::string error;
+        if (replaceUnlessChanged(merge, error) != Replaced::changedMeanwhile) return error;
+    }
+    return path_.string() + " is changed by another program all the time";
+}
 
-    const Content content = read();
-    if (content.state == State::unreadable) return content.error;
+Replaced SettingsFile::replaceUnlessChanged(const std::function<Replacement(const Content&)>& merge,
+                                            std::string& error) {
+    const std::filesystem::path target = files::followLinks(path_, error);
+    if (error.empty()) error = files::makePrivateFolder(target.parent_path());
+    if (!error.empty()) return Replaced::no;
+    const FileDescriptor lock = files::lockBeside(target, error);
+    if (!error.empty()) return Replaced::no;
+
+    const FileDescriptor file = openForReading();
+    const Content content = read(file);
+    if (content.state == State::unreadable) {
+        error = content.error;
+        return Replaced::no;
+    }
     const Replacement replacement = merge(content);
-    if (!replacement.text) return {};
-    if (replacement.setsAside) error = keepAside(target);
-    if (error.empty()) error = replaceAtomically(target, *replacement.text);
-    if (error.empty()) remember(presentStamp());
-    return error;
+    if (!replacement.text) return Replaced::yes;
+    if (replacement.setsAside) error = files::keepAside(target);
+    if (!error.empty()) return Replaced::no;
+    const bool hasMoved = replacement.setsAside && access(target.c_str(), F_OK) != 0;
+    const Replaced replaced =
+        files::replaceIfStill(target, hasMoved ? files::FileIdentity() : stamp_.file, *replacement.text, error);
+    stampIsFinal_ = false;  // what stands there now may be somebody else's already
+    return replaced;
 }
 
 }  // namespace orlamo::qt

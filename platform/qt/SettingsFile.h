@@ -1,12 +1,12 @@
 #pragma once
 
-#include <sys/stat.h>
-
 #include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
+
+#include "platform/files/FileReplacement.h"
 
 namespace orlamo::qt {
 
@@ -33,24 +33,24 @@ public:
     /// Whether the file may have changed since the last read or replace.
     bool hasChanged() const;
     Content read();
-    /// Reads, lets `merge` decide, and replaces, all under a lock against others who do the same. The file has the old
-    /// content or the new at every moment, and the new is on the disk when this succeeds. Creates the folder.
+    /// Reads, lets `merge` decide, and replaces, all under a lock against others who do the same; anew when somebody
+    /// who takes no lock replaced the file meanwhile. The file has the old content or the new at every moment, and the
+    /// new is on the disk when this succeeds. Creates the folder.
     std::string replace(const std::function<Replacement(const Content&)>& merge);
 
 private:
     struct Stamp {
-        bool exists = false;
-        dev_t device = 0;
-        ino_t inode = 0;
-        std::int64_t modified = 0;  // nanoseconds since 1970
-        std::int64_t changed = 0;
-        off_t size = 0;
+        files::FileIdentity file;
+        std::int64_t changed = 0;  // nanoseconds since 1970
         bool operator==(const Stamp&) const = default;
     };
 
     static Stamp stampOf(const struct stat& status);
     Stamp presentStamp() const;
     void remember(const Stamp& stamp);
+    files::FileDescriptor openForReading() const;
+    Content read(const files::FileDescriptor& file);
+    files::Replaced replaceUnlessChanged(const std::function<Replacement(const Content&)>& merge, std::string& error);
 
     std::filesystem::path path_;
     Stamp stamp_;

@@ -1,21 +1,15 @@
 #include "platform/xdg/Autostart.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <cstdlib>
-#include <cstring>
 
 #include "platform/Log.h"
+#include "platform/files/FileReplacement.h"
 
 namespace orlamo::xdg {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr mode_t entryMode = 0644;
 
 bool failed(const fs::path& path, const std::string& why) {
     logLine("Start at login: " + path.string() + ": " + why);
@@ -56,33 +50,6 @@ std::string quotedArgument(std::string_view text) {
         argument += c;
     }
     return argument + '"';
-}
-
-bool writeAll(int file, std::string_view text) {
-    while (!text.empty()) {
-        const auto written = ::write(file, text.data(), text.size());
-        if (written < 0 && errno == EINTR) continue;
-        if (written < 0) return false;
-        text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return ::fchmod(file, entryMode) == 0 && ::fsync(file) == 0;
-}
-
-// Writes beside the file and then renames. The ending of the name beside it is none that a session starts.
-bool replaceFile(const fs::path& path, std::string_view text) {
-    auto beside = (path.parent_path() / ("." + path.filename().string() + ".XXXXXX")).string();
-    const int file = ::mkstemp(beside.data());
-    if (file < 0) return failed(path, std::strerror(errno));
-    bool isWritten = writeAll(file, text);
-    int error = errno;
-    if (::close(file) != 0 && isWritten) {
-        isWritten = false;
-        error = errno;
-    }
-    if (isWritten && ::rename(beside.c_str(), path.c_str()) == 0) return true;
-    if (isWritten) error = errno;
-    ::unlink(beside.c_str());
-    return failed(path, std::strerror(error));
 }
 
 bool isFileName(std::string_view text) {
@@ -130,10 +97,12 @@ bool Autostart::SMLoginItemSetEnabled(std::string_view identifier, bool enabled)
 
 bool Autostart::add(const fs::path& entry) const {
     if (!program_.executable.is_absolute()) return failed(entry, "the program's own place is not known");
-    std::error_code error;
-    fs::create_directories(folder_, error);
-    if (error) return failed(folder_, error.message());
-    return replaceFile(entry, desktopEntry(program_));
+    std::string error = files::makePrivateFolder(folder_);
+    if (!error.empty()) return failed(folder_, error);
+    // A session starts what ends in ".desktop": nothing that stands beside the entry meanwhile.
+    const auto lock = files::lockFolder(folder_);
+    error = files::replaceAtomically(entry, desktopEntry(program_));
+    return error.empty() || failed(entry, error);
 }
 
 }  // namespace orlamo::xdg

@@ -46,7 +46,7 @@ TEST_F(AutostartTest, WritesAWholeEntryAndNothingElse) {
               "TryExec=/opt/or lamo/orlamo\nExec=\"/opt/or "
               "lamo/orlamo\"\nTerminal=false\nNoDisplay=true\nX-GNOME-Autostart-enabled=true\n");
     EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 1);
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
 }
 
 TEST_F(AutostartTest, ReplacesWhatIsThereAndRemovesItWithoutTheOthers) {
