@@ -79,7 +79,7 @@ class NoFonts(DesktopTest):
 
 class PoorServer(DesktopTest):
     session_arguments = {"server": ["-extension", "X-Resource", "-extension", "MIT-SHM", "-extension", "RENDER",
-                                    "-extension", "COMPOSITE"]}
+                                    "-extension", "COMPOSITE"], "compositor": False}
 
     def test_an_x_server_without_its_newer_extensions_shows_the_panel(self):
         self.start_program()
