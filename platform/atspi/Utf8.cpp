@@ -28,8 +28,19 @@ bool isBlank(char32_t character) {
 bool isUnfitToShow(char32_t character) {
     return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == 0x061C || character == 0x200E ||
            character == 0x200F || (character >= 0x2028 && character <= 0x202E) ||
-           (character >= 0x2066 && character <= 0x2069) || character == 0xFEFF || (character & 0xFFFE) == 0xFFFE;
+           (character >= 0x2060 && character <= 0x206F) || character == 0xFEFF ||
+           (character >= 0xFFF9 && character <= 0xFFFB) || (character & 0xFFFE) == 0xFFFE ||
+           (character >= 0xE0000 && character <= 0xE0FFF);
 }
+
+/// Marks that are drawn over the letter before them, each higher than the last.
+bool isStackedMark(char32_t character) {
+    return (character >= 0x0300 && character <= 0x036F) || (character >= 0x1AB0 && character <= 0x1AFF) ||
+           (character >= 0x1DC0 && character <= 0x1DFF) || (character >= 0x20D0 && character <= 0x20FF) ||
+           (character >= 0xFE20 && character <= 0xFE2F);
+}
+
+constexpr int mostStackedMarks = 3;  // more than any language puts on one letter
 
 }  // namespace
 
@@ -76,6 +87,7 @@ std::string toUtf8(char32_t character) {
 std::string cleanName(std::string_view name, std::size_t limit) {
     std::string clean;
     std::size_t withoutTrailingBlanks = 0;
+    int marks = 0;
     while (!name.empty()) {
         const std::string_view before = name;
         const auto character = takeCharacter(name);
@@ -84,6 +96,8 @@ std::string cleanName(std::string_view name, std::size_t limit) {
             continue;
         }
         if (isUnfitToShow(*character)) continue;
+        marks = isStackedMark(*character) ? marks + 1 : 0;
+        if (marks > mostStackedMarks) continue;
         if (isBlank(*character) && clean.empty()) continue;
         const std::string_view bytes = before.substr(0, before.size() - name.size());
         if (clean.size() + bytes.size() > limit) break;

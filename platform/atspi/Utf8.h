@@ -15,8 +15,9 @@ std::optional<char32_t> singleCharacter(std::string_view text);
 
 std::string toUtf8(char32_t character);
 
-/// A name that another program gave, made fit to be shown: without malformed bytes, control and direction characters,
-/// without blanks around it, and cut to `limit` bytes between two characters.
+/// A name that another program gave, made fit to be shown: without malformed bytes, control, direction and hidden
+/// characters, without letters under piles of marks, without blanks around it, and cut to `limit` bytes between two
+/// characters.
 std::string cleanName(std::string_view name, std::size_t limit = 1024);
 
 }  // namespace orlamo::atspi

@@ -17,6 +17,8 @@ TEST(CleanName, KeepsWhatCanBeShown) {
         {"a\xFF\xC3(\xED\xA0\x80\xC0\xAF z", "a( z"},
         {"日本語 😀", "日本語 😀"},
         {" \t ", ""},
+        {"a\u2060b\U000E0041\uFFF9c", "abc"},
+        {"Ệ E\u0302\u0323 Z\u0300\u0301\u0302\u0303\u0304\u20DDy", "Ệ E\u0302\u0323 Z\u0300\u0301\u0302y"},
     };
     for (const auto& [name, clean] : rows) EXPECT_EQ(cleanName(name), clean);
 }
