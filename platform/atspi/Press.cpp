@@ -2,6 +2,7 @@
 
 #include <systemd/sd-bus.h>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <thread>
@@ -13,6 +14,7 @@ namespace orlamo::atspi {
 namespace {
 
 constexpr std::chrono::milliseconds checkTime{400};
+constexpr std::chrono::milliseconds wholeCheckTime{600};  // with what follows when the item is disabled
 // GTK performs the item before it answers: one that opens a modal dialog keeps its answer until that is closed. The
 // program has just answered the check, so silence after this time means that it is busy with the item.
 constexpr std::chrono::milliseconds pressTime{150};
@@ -35,10 +37,10 @@ std::optional<LiveItem> askItem(Connection& bus, const ObjectRef& object, Deadli
             into = std::move(answer);
         });
     };
-    ask(Question::name, item.name);
     ask(Question::role, item.role);
     ask(Question::states, item.states);
     ask(Question::keyBinding, item.keyBinding);
+    ask(Question::name, item.name);  // the last one: it is what the user chose by
     while (outstanding > 0 && source.wait()) {
     }
     if (outstanding > 0) return std::nullopt;
@@ -66,8 +68,7 @@ bool isDisabled(const LiveItem& live) {
     return value != nullptr && (*value & (states::enabled | states::sensitive)) == 0;
 }
 
-bool becomesEnabled(Connection& bus, const MenuNode& item) {
-    const Deadline deadline = deadlineIn(forwardTime);
+bool becomesEnabled(Connection& bus, const MenuNode& item, Deadline deadline) {
     while (const auto live = askItem(bus, item.object, deadline)) {
         if (!isSameItem(*live, item)) return false;
         if (!isDisabled(*live)) return true;
@@ -79,12 +80,14 @@ bool becomesEnabled(Connection& bus, const MenuNode& item) {
 }  // namespace
 
 AXError pressMenuItem(Connection& bus, const MenuNode& item, const std::function<bool()>& bringForward) {
+    const Deadline checked = deadlineIn(wholeCheckTime);
     const auto live = askItem(bus, item.object, deadlineIn(checkTime));
     if (!live) return AXError::cannotComplete;
     if (!isSameItem(*live, item)) return AXError::invalidUIElement;
     if (isDisabled(*live)) {
         const bool wasEnabled = item.isEnabled.value_or(true);
-        if (!wasEnabled || !bringForward() || !becomesEnabled(bus, item)) return AXError::failure;
+        if (!wasEnabled || !bringForward() || !becomesEnabled(bus, item, std::min(checked, deadlineIn(forwardTime))))
+            return AXError::failure;
     }
 
     AXError result = AXError::success;
