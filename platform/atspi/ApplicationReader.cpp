@@ -21,6 +21,11 @@ namespace {
 const ObjectRef registryRoot{"org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"};
 
 constexpr std::size_t longestApplicationName = 200;
+constexpr std::size_t mostRoots = 50;  // of one process
+// A healthy program gives a first answer at its own address, and its whole cache, sooner. One that stalls there may
+// still answer over the bus, in the time that is left.
+constexpr std::chrono::milliseconds longestGreetingTime{150};
+constexpr std::chrono::milliseconds longestCacheTime{350};
 
 struct Application {
     ObjectRef root;
@@ -94,6 +99,7 @@ std::vector<ObjectRef> rootsOfProcess(Connection& bus, int processIdentifier, De
     inquiry.waitForAll();
     const auto wanted = static_cast<std::uint32_t>(processIdentifier);
     std::erase_if(roots, [&](const ObjectRef& root) { return processes[root.bus] != wanted; });
+    if (roots.size() > mostRoots) roots.resize(mostRoots);
     return roots;
 }
 
@@ -106,8 +112,9 @@ Application askApplication(Connection& bus, const ObjectRef& root, Deadline dead
         if (const auto* const name = std::get_if<std::string>(&answer))
             application.name = cleanName(*name, longestApplicationName);
     });
-    inquiry.ask(root, Question::children, [&application](const Answer& answer) {
+    inquiry.ask(root, Question::children, [&application, &root](const Answer& answer) {
         if (const auto* const windows = std::get_if<std::vector<ObjectRef>>(&answer)) application.windows = *windows;
+        std::erase_if(application.windows, [&root](const ObjectRef& window) { return window.bus != root.bus; });
     });
     inquiry.call({root.bus, root.path, "org.a11y.atspi.Application", "GetApplicationBusAddress"},
                  [&application](sd_bus_message* message) {
@@ -136,6 +143,43 @@ Application askApplication(Connection& bus, const ObjectRef& root, Deadline dead
     return application;
 }
 
+bool answersInTime(Connection& own, const ObjectRef& root, Deadline deadline, std::size_t& calls) {
+    bool isAnswered = false;
+    Inquiry inquiry(own, std::min(deadline, deadlineIn(longestGreetingTime)), calls);
+    inquiry.ask(root, Question::role,
+                [&isAnswered](const Answer& answer) { isAnswered = std::holds_alternative<std::uint64_t>(answer); });
+    inquiry.waitForAll();
+    return isAnswered;
+}
+
+/// How an application is asked: over a connection of its own, null: the bus; and what its cache told already.
+struct Way {
+    /// Kept for one reading only: a program sends its events along each such connection, read or not.
+    std::unique_ptr<Connection> own;
+    KnownNodes known;
+};
+
+Way wayTo(Connection& bus, const Application& application, int processIdentifier, Deadline deadline,
+          SlowCaches& slowCaches, std::size_t& calls) {
+    Way way;
+    if (!application.ownAddress) return way;
+    const ObjectRef& root = application.root;
+    if (!application.ownAddress->empty()) {
+        way.own = Connection::toProgram(*application.ownAddress, processIdentifier);
+    }
+    if (way.own && !answersInTime(*way.own, root, deadline, calls)) way.own.reset();
+    if (slowCaches.contains(root.bus)) return way;
+    ++calls;
+    Connection& asked = way.own ? *way.own : bus;
+    if (auto cache = readCache(asked, root.bus, std::min(deadline, deadlineIn(longestCacheTime)))) {
+        way.known = std::move(*cache);
+    } else {
+        slowCaches.insert(root.bus);
+        way.own.reset();
+    }
+    return way;
+}
+
 std::string nameForPeople(const Application& application, int processIdentifier, const Options& options) {
     std::string name = options.applicationName
                            ? cleanName(options.applicationName(processIdentifier), longestApplicationName)
@@ -160,17 +204,9 @@ AXError readMenus(Connection& bus, int processIdentifier, const Options& options
                   SlowCaches& slowCaches, std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics) {
     const std::vector<ObjectRef> roots = rootsOfProcess(bus, processIdentifier, deadline, statistics.calls);
     for (const ObjectRef& root : roots) {
+        if (std::chrono::steady_clock::now() >= deadline) break;
         const Application application = askApplication(bus, root, deadline, statistics.calls);
-        // Kept for this reading only: a program sends its events along each such connection, read or not.
-        std::unique_ptr<Connection> own;
-        if (application.ownAddress && !application.ownAddress->empty()) {
-            own = Connection::toProgram(*application.ownAddress);
-        }
-        KnownNodes known;
-        if (application.ownAddress && !slowCaches.contains(root.bus)) {
-            known = readCache(own ? *own : bus, root.bus, deadline);
-            ++statistics.calls;
-        }
+        const auto [own, known] = wayTo(bus, application, processIdentifier, deadline, slowCaches, statistics.calls);
         statistics.usedCache = !known.empty();
         BusNodeSource source(own && own->isOpen() ? *own : bus, deadline);
         const auto menuBar = findMenuBar(source, known, application.windows);

@@ -14,7 +14,8 @@
 namespace orlamo::atspi {
 namespace {
 
-constexpr std::size_t mostObjects = 50'000;
+constexpr std::size_t mostObjects = 20'000;
+constexpr std::size_t mostListedChildren = 50'000;  // of all objects together
 constexpr std::size_t longestPath = 512;
 
 struct CachedObject {
@@ -43,11 +44,14 @@ bool readStates(sd_bus_message* message, std::uint64_t& states) {
     return result == 0 && sd_bus_message_exit_container(message) >= 0;
 }
 
-bool readListedChildren(sd_bus_message* message, const std::string& bus, CachedObject& cached) {
+bool readListedChildren(sd_bus_message* message, const std::string& bus, CachedObject& cached, std::size_t& room) {
     if (sd_bus_message_enter_container(message, 'a', "(so)") < 0) return false;
     std::vector<ObjectRef> children;
     ObjectRef child;
-    while (children.size() < mostObjects && readRef(message, bus, child)) children.push_back(child);
+    while (room > 0 && readRef(message, bus, child)) {
+        children.push_back(child);
+        --room;
+    }
     cached.node.children = std::move(children);
     return sd_bus_message_exit_container(message) >= 0;
 }
@@ -55,7 +59,7 @@ bool readListedChildren(sd_bus_message* message, const std::string& bus, CachedO
 /// One row: object, application, parent, then place and child count or, in the older form, the list of children; then
 /// interfaces, name, role, description, states.
 std::optional<CachedObject> readRow(sd_bus_message* message, const std::string& bus, const char* row,
-                                    bool listsChildren) {
+                                    bool listsChildren, std::size_t& room) {
     if (sd_bus_message_enter_container(message, 'r', row) <= 0) return std::nullopt;
     CachedObject cached;
     ObjectRef application;
@@ -63,7 +67,7 @@ std::optional<CachedObject> readRow(sd_bus_message* message, const std::string& 
         !readRef(message, bus, cached.parent)) {
         return std::nullopt;
     }
-    const bool hasChildren = listsChildren ? readListedChildren(message, bus, cached)
+    const bool hasChildren = listsChildren ? readListedChildren(message, bus, cached, room)
                                            : sd_bus_message_read(message, "ii", &cached.place, &cached.childCount) > 0;
     const char *name = nullptr, *description = nullptr;
     std::uint32_t role = 0;
@@ -98,7 +102,7 @@ KnownNodes connect(std::vector<CachedObject> rows) {
     return known;
 }
 
-KnownNodes readRows(sd_bus_message* message, const std::string& bus) {
+KnownNodes readRows(sd_bus_message* message, const std::string& bus, Deadline deadline) {
     constexpr const char* row = "(so)(so)(so)iiassusau";
     constexpr const char* olderRow = "(so)(so)(so)a(so)assusau";
     const bool listsChildren = sd_bus_message_has_signature(message, "a((so)(so)(so)a(so)assusau)") > 0;
@@ -106,8 +110,9 @@ KnownNodes readRows(sd_bus_message* message, const std::string& bus) {
     const std::string rowType = std::string("(") + (listsChildren ? olderRow : row) + ")";
     if (sd_bus_message_enter_container(message, 'a', rowType.c_str()) < 0) return {};
     std::vector<CachedObject> rows;
-    while (rows.size() < mostObjects) {
-        auto cached = readRow(message, bus, listsChildren ? olderRow : row, listsChildren);
+    std::size_t room = mostListedChildren;
+    while (rows.size() < mostObjects && std::chrono::steady_clock::now() < deadline) {
+        auto cached = readRow(message, bus, listsChildren ? olderRow : row, listsChildren, room);
         if (!cached) break;
         if (!cached->object.path.empty()) rows.push_back(std::move(*cached));
     }
@@ -116,7 +121,7 @@ KnownNodes readRows(sd_bus_message* message, const std::string& bus) {
 
 }  // namespace
 
-KnownNodes readCache(Connection& connection, const std::string& bus, Deadline deadline) {
+std::optional<KnownNodes> readCache(Connection& connection, const std::string& bus, Deadline deadline) {
     KnownNodes known;
     bool isAnswered = false;
     const int owner = 0;
@@ -125,7 +130,7 @@ KnownNodes readCache(Connection& connection, const std::string& bus, Deadline de
         [&](sd_bus_message* reply) {
             isAnswered = true;
             if (reply != nullptr && sd_bus_message_is_method_error(reply, nullptr) <= 0) {
-                known = readRows(reply, bus);
+                known = readRows(reply, bus, deadline);
             }
         },
         &owner);
@@ -133,6 +138,7 @@ KnownNodes readCache(Connection& connection, const std::string& bus, Deadline de
     while (!isAnswered && waitForAnswers(connections, deadline)) {
     }
     connection.cancel(&owner);
+    if (!isAnswered) return std::nullopt;
     return known;
 }
 

@@ -2,6 +2,7 @@
 
 #include <poll.h>
 #include <sys/ioctl.h>
+#include <sys/socket.h>
 #include <systemd/sd-bus.h>
 
 #include <algorithm>
@@ -15,7 +16,7 @@ namespace {
 // A program works through its queue anyway; more in flight only fills the buffers between.
 constexpr std::size_t mostInFlight = 512;
 // The caches of large programs are below 2 MiB. A message beyond this is not read to its end.
-constexpr std::size_t longestMessage = 16U << 20;
+constexpr std::size_t longestMessage = 8U << 20;
 // Longer than any reading: its deadline is what ends a wait, and cancel() the calls.
 constexpr std::uint64_t callTimeoutMicroseconds = 20'000'000;
 
@@ -36,6 +37,22 @@ bool append(sd_bus_message* message, const Call::Argument& argument) {
     return sd_bus_message_close_container(message) >= 0;
 }
 
+/// Sockets of this machine only. Other addresses would have a command run, or a host's name looked up.
+bool areSockets(std::string_view addresses) {
+    while (!addresses.empty()) {
+        const std::string_view first = addresses.substr(0, addresses.find(';'));
+        if (!first.starts_with("unix:path=") && !first.starts_with("unix:abstract=")) return false;
+        addresses.remove_prefix(std::min(addresses.size(), first.size() + 1));
+    }
+    return true;
+}
+
+int processBehind(int socket) {
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 ? peer.pid : -1;
+}
+
 }  // namespace
 
 Connection::Connection(sd_bus* bus, bool isBus) : bus_(bus), isBus_(isBus) {
@@ -53,7 +70,8 @@ Connection::~Connection() {
 
 std::unique_ptr<Connection> Connection::start(sd_bus* bus, bool isBus, const std::string& address) {
     std::unique_ptr<Connection> connection(new Connection(bus, isBus));
-    const bool isStarted = sd_bus_set_address(bus, address.c_str()) >= 0 &&
+    sd_bus_negotiate_fds(bus, 0);  // none are asked for, so none are taken
+    const bool isStarted = areSockets(address) && sd_bus_set_address(bus, address.c_str()) >= 0 &&
                            sd_bus_set_bus_client(bus, isBus ? 1 : 0) >= 0 && sd_bus_start(bus) >= 0;
     return isStarted ? std::move(connection) : nullptr;
 }
@@ -69,9 +87,11 @@ std::unique_ptr<Connection> Connection::toBus(const std::string& address) {
     return sd_bus_new(&bus) < 0 ? nullptr : start(bus, true, address);
 }
 
-std::unique_ptr<Connection> Connection::toProgram(const std::string& address) {
+std::unique_ptr<Connection> Connection::toProgram(const std::string& address, int processIdentifier) {
     sd_bus* bus = nullptr;
-    return sd_bus_new(&bus) < 0 ? nullptr : start(bus, false, address);
+    auto connection = sd_bus_new(&bus) < 0 ? nullptr : start(bus, false, address);
+    const bool isItsOwn = connection && processBehind(connection->descriptor()) == processIdentifier;
+    return isItsOwn ? std::move(connection) : nullptr;
 }
 
 int Connection::descriptor() const {
@@ -154,7 +174,7 @@ bool Connection::isFlooded() {
 void Connection::handle(Deadline deadline) {
     while (isOpen_ && std::chrono::steady_clock::now() < deadline) {
         if (isFlooded()) {
-            logLine("accessibility: a message longer than 16 MiB was not read; the connection is closed");
+            logLine("accessibility: a message longer than 8 MiB was not read; the connection is closed");
             close();
             return;
         }

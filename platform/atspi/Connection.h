@@ -45,7 +45,8 @@ public:
 
     static std::unique_ptr<Connection> toSessionBus();
     static std::unique_ptr<Connection> toBus(const std::string& address);
-    static std::unique_ptr<Connection> toProgram(const std::string& address);
+    /// Only where that process itself has opened the socket; the address is what a program claims.
+    static std::unique_ptr<Connection> toProgram(const std::string& address, int processIdentifier);
     ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int deepest = 8;
 constexpr std::size_t mostObjects = 1000;
+constexpr std::size_t mostChildrenKept = 10'000;  // of one level, until they are sorted out
 
 bool mayHoldMenuBar(ObjectRole role) {
     switch (role) {
@@ -78,7 +79,8 @@ private:
             if (children == nullptr) continue;
             for (std::size_t place = 0; place < children->size(); ++place) {
                 const ObjectRef& child = (*children)[place];
-                if (visited_.size() >= mostObjects || !visited_.insert(child).second) continue;
+                if (child.bus != holders_[i].object.bus || visited_.size() >= mostObjects) continue;
+                if (!visited_.insert(child).second) continue;
                 level.push_back({child, holders_[i].way});
                 level.back().way.push_back(place);
             }
@@ -91,6 +93,7 @@ private:
         struct Round {
             std::vector<Answer> answers;
             std::size_t outstanding = 0;
+            std::size_t room = mostChildrenKept;
         };
         const auto round = std::make_shared<Round>();
         round->answers.resize(places.size());
@@ -100,6 +103,10 @@ private:
             ++round->outstanding;
             source_.ask(places[i].object, question, [round, i](Answer answer) {
                 --round->outstanding;
+                if (auto* const children = std::get_if<std::vector<ObjectRef>>(&answer)) {
+                    children->resize(std::min(children->size(), round->room));
+                    round->room -= children->size();
+                }
                 round->answers[i] = std::move(answer);
             });
         }

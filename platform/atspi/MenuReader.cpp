@@ -54,9 +54,10 @@ void MenuReader::ask(std::uint32_t index, Question question, Handle handle) {
     });
 }
 
-/// Returns whether the object is a new element of the tree.
+/// Returns whether the object is a new element of the tree. One of another program is none: its press would be there.
 bool MenuReader::visit(const ObjectRef& object, std::uint32_t depth, bool isOnlyChild) {
     if (object.path.empty() || object.path.size() > longestPath) return false;
+    if (!tree_.nodes.empty() && object.bus != tree_.nodes[0].object.bus) return false;
     if (tree_.nodes.size() >= limits_.elements || depth > limits_.depth) {
         tree_.isComplete = false;
         return false;
