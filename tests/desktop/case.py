@@ -10,6 +10,7 @@ from session import DesktopSession
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PROGRAM = os.environ.get("ORLAMO_PROGRAM", str(ROOT / "build/release/orlamo"))
+PEER = os.environ.get("ORLAMO_HOSTILE_PEER", str(pathlib.Path(PROGRAM).with_name("orlamo_hostile_peer")))
 EVIDENCE = pathlib.Path(os.environ.get("ORLAMO_EVIDENCE", ROOT / "build/desktop-tests"))
 
 

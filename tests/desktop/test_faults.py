@@ -3,9 +3,10 @@ import os
 import signal
 import time
 
-from case import DesktopTest
+from case import DesktopTest, PEER
 from program import BUILDS, SHOWS
 from screen import wait_until
+from session import PATIENCE, Application
 
 
 class Faults(DesktopTest):
@@ -64,6 +65,29 @@ class Faults(DesktopTest):
         self.assertLess(self.answer_time(), 1.5)
         self.assertIsNone(self.program.log.find(BUILDS))
         self.program.assert_alive()
+
+
+    def test_over_an_application_that_misbehaves_the_panel_opens_or_not_within_a_second(self):
+        for behaviour, opens in (("never answers", {False}), ("has items without end", {True}),
+                                 ("has 10^6 items", {False, True}),  # as far as its other menus were read by then
+                                 ("has names of 1 MB", {True}), ("quits on the press", {True})):
+            with self.subTest(behaviour):
+                process = self.session.start([PEER, behaviour])
+                hostile = Application(self.session, process)
+                wait_until(hostile.is_in_front, PATIENCE, "hostile window in front")
+                self.wait_out_the_double_press()
+                since = self.program.log.mark()
+                self.assertLess(self.answer_time(), 1.5)
+                self.assertIn(self.program.log.find(BUILDS, since) is not None, opens)
+                self.program.wait_until_closed()
+                if behaviour.startswith("quits"):
+                    self.wait_out_the_double_press()
+                    self.program.open_panel()
+                    self.screen.click(*self.program.hover("Copy"))
+                    process.wait(PATIENCE)
+                    self.program.wait_until_closed()
+                self.session.stop(process)
+        self.assert_works()
 
 
 class NoFonts(DesktopTest):
