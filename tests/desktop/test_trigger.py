@@ -50,7 +50,10 @@ class Trigger(DesktopTest):
 
     def test_a_click_in_another_window_closes_the_panel_and_leaves_that_window_in_front(self):
         first = self.session.open_editor("mousepad")
-        first_area = self.screen.geometry_of(self.screen.active_window())
+        window = self.screen.active_window()
+        window.configure(x=20, y=40)  # some place the second one over it
+        wait_until(lambda: self.screen.geometry_of(window)[0] < 60, 5, "editor at the left")
+        first_area = self.screen.geometry_of(window)
         second = self.session.open_editor("featherpad")
         self.assertTrue(second.is_in_front())
         panel = self.program.open_panel()
