@@ -1,6 +1,6 @@
 # The commands of this project. `make help` lists them.
 .DEFAULT_GOAL := help
-.PHONY: help run test package package-test bench picture pictures format check tidy hooks clean
+.PHONY: help run test package package-test bench picture pictures format check mutate tidy hooks clean
 
 help: ## this list
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "make %-12s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -50,6 +50,10 @@ pictures: ## take the pictures of docs/images anew
 format: ## format all C++ files
 	@scripts/setup test
 	@scripts/check --fix
+
+mutate: ## seed single faults and see which the unit tests catch
+	@scripts/setup build test
+	@scripts/mutate
 
 check: ## formatting and house rules, as the pre-commit hook does
 	@scripts/check
