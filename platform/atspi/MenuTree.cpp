@@ -99,6 +99,15 @@ std::uint32_t placeBehindAll(const MenuTree& tree) {
     return tree.nodes[*found].children.front();
 }
 
+// A click looks its item up by the title, and the first one counts: an application's own "Lock Screen" must not lock
+// the screen. The joiner has neither ink nor width.
+std::string titleUnlikeOthers(std::string title, const RawTree& raw) {
+    constexpr std::string_view wordJoiner = "\u2060";
+    const auto hasThatName = [&title](const RawNode& node) { return node.name == title; };
+    while (std::ranges::any_of(raw.nodes, hasThatName)) title += wordJoiner;
+    return title;
+}
+
 MenuNode emptyRow() {
     MenuNode node;
     node.title = "space";
@@ -132,7 +141,7 @@ MenuTree shapeMenus(const RawTree& raw, const ApplicationIdentity& application, 
         MenuNode item;
         item.kind = MenuNode::Kind::sessionItem;
         item.object.path = std::to_string(i);
-        item.title = session.items[i].title;
+        item.title = titleUnlikeOthers(session.items[i].title, raw);
         item.isEnabled = true;
         item.shortcut = session.items[i].shortcut;
         item.press = session.items[i].press;

@@ -59,6 +59,7 @@ struct ApplicationIdentity {
 
 /// Puts raw elements into the promised shape: the session and the application's name in front, Qt's popups folded away,
 /// one menu under each menu-bar item; separators, tear-off items, hidden items and items without a name are left out.
+/// A session item called like one of the application's gets a sign behind its title that is not seen.
 /// Behind them all stands an item "space" for each session item whose key has no code: who pairs items with key codes
 /// by counting, and leaves that title's row empty, has a pair for every other item then.
 MenuTree shapeMenus(const RawTree& raw, const ApplicationIdentity& application, const SessionMenu& session);

@@ -88,6 +88,14 @@ TEST_F(MenuReading, ASessionMenuTakesTheFirstPlace) {
     EXPECT_EQ(tree.nodes[3].press(), AXError::noValue);
 }
 
+TEST_F(MenuReading, ASessionItemNeverHasTheTitleOfAnItemOfTheApplication) {
+    source.objects = {{"bar", Object{{"file"}, "", ObjectRole::menuBar}},
+                      {"file", Object{{"lock"}, "File"}},
+                      {"lock", Object{{}, "Lock", ObjectRole::menuItem, usable, "Ctrl+K"}}};
+    session = {SessionMenuState::present, "Session", {{"Lock", Shortcut{4, "L", 0}}, {"Log Out", Shortcut{4, "Q", 0}}}};
+    EXPECT_EQ(text(shape()), "?[Session[:[Lock\u2060(4L) Log Out(4Q)]] Editor File[:[Lock(0K)]]]");
+}
+
 TEST_F(MenuReading, ForASessionItemWhoseKeyHasNoCodeAnEmptyRowWithAKeyStandsBehindAll) {
     session = {SessionMenuState::present, "Session", {{"Out", Shortcut{2, "DELETE", 0}}, {"In", Shortcut{4, "⎋", 0}}}};
     source.objects = {{"bar", Object{{"a", "b"}, "", ObjectRole::menuBar}},
