@@ -580,7 +580,7 @@
     </message>
     <message>
         <source>tutorial.find.description</source>
-        <translation>Halten Sie Strg, Alt, Umschalt oder Super gedrückt: Die Tastenkürzel, die mit den gehaltenen Tasten beginnen, werden türkis.</translation>
+        <translation>Halten Sie Strg, Alt, Umschalt oder Super gedrückt: Die Tastenkürzel mit genau den gehaltenen Tasten werden türkis.</translation>
     </message>
     <message>
         <source>tutorial.click</source>

@@ -575,7 +575,7 @@
     </message>
     <message>
         <source>tutorial.find.description</source>
-        <translation>Hold Ctrl, Alt, Shift or Super: the shortcuts that begin with the keys you hold turn teal.</translation>
+        <translation>Hold Ctrl, Alt, Shift or Super: shortcuts with exactly the keys held turn teal.</translation>
     </message>
     <message>
         <source>tutorial.click</source>

@@ -579,7 +579,7 @@
     </message>
     <message>
         <source>tutorial.find.description</source>
-        <translation>Maintenez Ctrl, Alt, Maj ou Super : les raccourcis qui commencent par ces touches passent au turquoise.</translation>
+        <translation>Maintenez Ctrl, Alt, Maj ou Super : les raccourcis qui ont exactement ces touches passent au turquoise.</translation>
     </message>
     <message>
         <source>tutorial.click</source>

@@ -579,7 +579,7 @@
     </message>
     <message>
         <source>tutorial.find.description</source>
-        <translation>Ctrl、Alt、Shift、Super を押している間、そのキーのショートカットが青緑色になります。</translation>
+        <translation>Ctrl、Alt、Shift、Super を押している間、ちょうどその修飾キーを使うショートカットが青緑色になります。</translation>
     </message>
     <message>
         <source>tutorial.click</source>

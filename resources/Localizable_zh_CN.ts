@@ -575,7 +575,7 @@
     </message>
     <message>
         <source>tutorial.find.description</source>
-        <translation>按住 Ctrl、Alt、Shift 或 Super，以这些键开头的快捷键会变为青色。</translation>
+        <translation>按住 Ctrl、Alt、Shift 或 Super，恰好使用这些修饰键的快捷键会变为青色。</translation>
     </message>
     <message>
         <source>tutorial.click</source>
