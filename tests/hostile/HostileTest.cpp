@@ -26,8 +26,17 @@
 namespace orlamo::hostile {
 namespace {
 
-constexpr double longestAnswer = 1000;  // milliseconds
-constexpr long mostGrowth = 64 << 10;   // KiB
+#if defined(__has_feature)
+constexpr bool isSanitized = __has_feature(address_sanitizer);
+#elif defined(__SANITIZE_ADDRESS__)
+constexpr bool isSanitized = true;
+#else
+constexpr bool isSanitized = false;
+#endif
+
+// A sanitizer copies a message with each part of it that comes in, and keeps memory that was given back.
+constexpr double longestAnswer = isSanitized ? 4000 : 1000;  // milliseconds
+constexpr long mostGrowth = 64 << 10;                        // KiB
 constexpr std::size_t sideBySide = 6;
 constexpr int wholeItems = 12;
 
@@ -229,9 +238,7 @@ std::string faults(const Behaviour& behaviour, const Outcome& outcome, int statu
          {std::pair("trust", outcome.trust), {"reading", outcome.read}, {"press", outcome.press}}) {
         if (time > longestAnswer) text << " the " << what << " took " << static_cast<int>(time) << " ms;";
     }
-#ifndef __SANITIZE_ADDRESS__
-    if (outcome.growth > mostGrowth) text << " it grew by " << outcome.growth / 1024 << " MiB;";
-#endif
+    if (!isSanitized && outcome.growth > mostGrowth) text << " it grew by " << outcome.growth / 1024 << " MiB;";
     const bool isRead = outcome.readError == AXError::success;
     const Read read = !isRead || outcome.items == 0 ? Read::none
                       : outcome.items == wholeItems ? Read::whole
