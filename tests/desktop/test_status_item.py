@@ -37,7 +37,7 @@ class StatusItem(DesktopTest):
                                         (0x202020, (90, 200, 120), (90, 200, 120))):
             tray = XEmbedTray(self.session, background, colors).start()
             try:
-                self.assertGreater(count_near(self.picture_of_icon(tray), ink), 60, hex(background))
+                wait_until(lambda: count_near(self.picture_of_icon(tray), ink) > 60, SOON, f"ink on {background:x}")
             finally:
                 tray.stop()
 
