@@ -1,6 +1,6 @@
 # The commands of this project. `make help` lists them.
 .DEFAULT_GOAL := help
-.PHONY: help run test package package-test bench picture pictures format check mutate tidy hooks clean
+.PHONY: help run test fuzz sanitize package package-test bench picture pictures format check mutate tidy hooks clean
 
 help: ## this list
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "make %-12s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -16,6 +16,18 @@ test: ## build everything and run all tests
 	@cmake --preset release
 	@cmake --build --preset release
 	@ctest --preset release -j $$(nproc)
+
+fuzz: ## run each fuzzer for a minute; FUZZ_SECONDS=10, TARGETS="menus panel" say otherwise
+	@scripts/setup build fuzz
+	@cmake --preset fuzz > /dev/null
+	@cmake --build --preset fuzz
+	@scripts/fuzz $(TARGETS)
+
+sanitize: ## run all tests under AddressSanitizer, LeakSanitizer and UndefinedBehaviorSanitizer
+	@scripts/setup build run demo test
+	@cmake --preset sanitize
+	@cmake --build --preset sanitize
+	@ctest --preset sanitize -j $$(nproc)
 
 package: ## build the Debian package, and have it judged
 	@scripts/setup build package

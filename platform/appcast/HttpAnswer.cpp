@@ -112,7 +112,8 @@ HttpAnswer::State HttpAnswer::takeChunks() {
         }
         const qsizetype end = pending_.indexOf("\r\n");
         if (end < 0 || end > longestChunkLine) {
-            return pending_.size() > longestChunkLine ? State::broken : State::body;
+            // One more byte: the line's end may have arrived by half.
+            return pending_.size() > longestChunkLine + 1 ? State::broken : State::body;
         }
         const QByteArray line = pending_.left(end);
         pending_.remove(0, end + 2);

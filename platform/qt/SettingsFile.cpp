@@ -105,6 +105,10 @@ Replaced SettingsFile::replaceUnlessChanged(const std::function<Replacement(cons
     }
     const Replacement replacement = merge(content);
     if (!replacement.text) return Replaced::yes;
+    if (replacement.text->size() > largestSize) {
+        error = errorText("cannot write " + path_.string(), EFBIG);
+        return Replaced::no;
+    }
     if (replacement.setsAside) error = files::keepAside(target);
     if (!error.empty()) return Replaced::no;
     const bool hasMoved = replacement.setsAside && access(target.c_str(), F_OK) != 0;

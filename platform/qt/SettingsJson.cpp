@@ -12,6 +12,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 constexpr const char* dataKey = "data";
+constexpr int deepestNesting = 32;  // copying, comparing and writing a value take a frame of the stack for each level
 
 UserDefaults::Value dataOf(const Json& entry) {
     if (entry.size() != 1 || !entry.contains(dataKey) || !entry[dataKey].is_string()) return {};
@@ -38,9 +39,14 @@ struct ToJson {
 }  // namespace
 
 std::optional<SettingsJson> SettingsJson::parse(std::string_view text) {
+    bool isTooDeep = false;
+    const auto keeps = [&isTooDeep](int depth, Json::parse_event_t, const Json&) {
+        isTooDeep = isTooDeep || depth > deepestNesting;
+        return !isTooDeep;
+    };
     SettingsJson settings;
-    settings.object_ = Json::parse(text, nullptr, false);
-    if (!settings.object_.is_object()) return std::nullopt;
+    settings.object_ = Json::parse(text, keeps, false);
+    if (isTooDeep || !settings.object_.is_object()) return std::nullopt;
     return settings;
 }
 

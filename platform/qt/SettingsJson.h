@@ -14,7 +14,7 @@ namespace orlamo::qt {
 /// a fraction, texts, and data as {"data": "<base64>"}. Other entries are kept as they are and read as absent.
 class SettingsJson {
 public:
-    /// No value when the text is not a JSON object.
+    /// No value when the text is not a JSON object, or nests deeper than 32 levels.
     static std::optional<SettingsJson> parse(std::string_view text);
 
     UserDefaults::Value value(std::string_view key) const;

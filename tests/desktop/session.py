@@ -83,7 +83,8 @@ class DesktopSession:
         shutil.rmtree(self.folder, ignore_errors=True)
 
     def _prepare_folders(self):
-        keep = {name: os.environ[name] for name in ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
+        keep = {name: os.environ[name]
+                for name in ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
                 if name in os.environ}
         self.environment = {**keep, "LANG": "C.UTF-8", "HOME": str(self.folder), "TMPDIR": str(self.folder),
                             "QT_QPA_PLATFORM": "xcb", "GDK_BACKEND": "x11", "GSETTINGS_BACKEND": "keyfile"}

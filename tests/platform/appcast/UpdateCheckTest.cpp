@@ -3,6 +3,7 @@
 #include <fstream>
 #include <random>
 
+#include "platform/appcast/HttpAnswer.h"
 #include "tests/platform/appcast/FeedFixture.h"
 
 namespace orlamo::appcast {
@@ -208,6 +209,16 @@ TEST_F(UpdateCheckTest, DestroyingItCancelsIt) {
     }
     turnEventLoopUntil([&] { return server.connections == 0; });
     EXPECT_FALSE(answered);
+}
+
+TEST(HttpAnswer, SaysTheSameInOnePieceAndInMany) {
+    const QByteArray answer =
+        "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5;" + QByteArray(254, 'x') + "\r\nhello\r\n0\r\n\r\n";
+    HttpAnswer whole(100);
+    HttpAnswer pieces(100);
+    EXPECT_EQ(whole.take(answer), HttpAnswer::State::complete);
+    for (const char byte : answer) pieces.take(QByteArray(1, byte));
+    EXPECT_EQ(pieces.body(), whole.body());
 }
 
 }  // namespace

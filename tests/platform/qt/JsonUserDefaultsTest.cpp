@@ -53,6 +53,11 @@ TEST(SettingsJson, OnlyAWholeObjectIsRead) {
     for (const char* text : {"", "{", "[]", "{\"a\": 1", "{\"a\": 1} x", "\xff\xfe", "{\"a\": 01}", "null"}) {
         EXPECT_FALSE(qt::SettingsJson::parse(text)) << text;
     }
+    const auto nested = [](std::size_t levels) {
+        return "{\"a\": " + std::string(levels, '[') + std::string(levels, ']') + "}";
+    };
+    EXPECT_TRUE(qt::SettingsJson::parse(nested(20)));
+    EXPECT_FALSE(qt::SettingsJson::parse(nested(100'000)));
     EXPECT_FALSE(qt::SettingsJson().setValue("nan", std::numeric_limits<double>::quiet_NaN()));
 }
 
@@ -164,6 +169,17 @@ TEST_F(Settings, WhatCannotBeWrittenIsKeptAndNotReportedAsSavedUntilItCan) {
     fs::remove(folder / "config");
     EXPECT_TRUE(defaults.synchronize());
     EXPECT_EQ(qt::JsonUserDefaults(file).integerForKey("n"), 7);
+}
+
+TEST_F(Settings, WhatWouldBeTooLargeToBeReadAgainIsNotWritten) {
+    std::string numbers = "{\"other\":[1";
+    for (int i = 0; i < 1'000'000; ++i) numbers += ",1";  // 2 MB, and 10 MB with one number to a line
+    numbers += "]}";
+    write(file, numbers);
+    qt::JsonUserDefaults defaults(file);
+    defaults.setObject("key", true);
+    EXPECT_FALSE(defaults.synchronize());
+    EXPECT_EQ(read(file), numbers);
 }
 
 TEST_F(Settings, AFolderInTheFilesPlaceIsNotReplaced) {

@@ -1,0 +1,76 @@
+// The settings file as anybody may have left it: read, changed and written.
+#include <unistd.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "platform/qt/JsonUserDefaults.h"
+#include "shell/settings/Settings.h"
+#include "tests/doubles/FakeLog.h"
+#include "tests/fuzz/FuzzInput.h"
+
+using namespace orlamo;
+using fuzz::require;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// In memory where there is such a place: every input writes a file.
+struct Folder {
+    Folder() {
+        std::string name = (fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()) / "orlamo-fuzz-XXXXXX";
+        require(::mkdtemp(name.data()) != nullptr, "there is a folder");
+        path = name;
+    }
+    ~Folder() { fs::remove_all(path); }
+    fs::path path;
+};
+
+std::string contentOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto parsed = qt::SettingsJson::parse(fuzz::textOf(data, size));
+    if (parsed) require(qt::SettingsJson::parse(parsed->text()) == parsed, "settings are read as they were written");
+    if (size % 4 != 0) return 0;  // files take their time
+
+    static const Folder folder;
+    for (const auto& entry : fs::directory_iterator(folder.path)) fs::remove(entry);
+    const FakeLog log;
+    const std::string text(fuzz::textOf(data, size));
+    const fs::path file = folder.path / "settings.json";
+    std::ofstream(file, std::ios::binary) << text;
+
+    qt::JsonUserDefaults defaults(file);
+    writeDefaultValues(defaults);
+    std::string ascii = text;  // a text that is no UTF-8 is not kept as it is
+    for (char& each : ascii) each = static_cast<char>(each & 0x7f);
+    const std::string key = ascii.substr(0, 8);
+    const std::array<UserDefaults::Value, 4> values{true, std::int64_t{-7}, ascii,
+                                                    UserDefaults::Data(data, data + size)};
+    const UserDefaults::Value value = values[size / 4 % values.size()];
+    defaults.setObject(key, value);
+    require(defaults.objectForKey(key) == value, "a value is what was set");
+    require(defaults.synchronize(), "everything is written");
+
+    qt::JsonUserDefaults again(file);
+    for (const auto name : defaultsInitializationKeys) {
+        require(again.objectForKey(name) == defaults.objectForKey(name), "the file holds what was set");
+    }
+    const auto after = qt::SettingsJson::parse(contentOf(file));
+    require(after.has_value(), "what was written can be read");
+    require(after->text() == contentOf(file), "a file is written as it was");
+    if (parsed) require(parsed->value("other") == after->value("other") || key == "other", "other settings stay");
+    if (!text.empty() && !parsed) {
+        const auto files = std::distance(fs::directory_iterator(folder.path), {});
+        require(files >= 2, "a damaged file is kept");
+    }
+    return 0;
+}
