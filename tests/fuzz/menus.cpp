@@ -97,7 +97,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const RawTree raw = MenuReader(source, known, base, limits).read(FakeNodeSource::ref(pathOf(0)));
     require(raw.nodes.size() <= limits.elements, "there are no more elements than the limit");
     for (const RawNode& node : raw.nodes) require(node.depth <= limits.depth, "nothing is deeper than the limit");
-    const SessionMenu session{"Session", {{"Lock", Shortcut{0, "L", 0}}, {"Log Out", std::nullopt}}};
+    const SessionMenu session{
+        SessionMenuState::present, "Session", {{"Lock", Shortcut{0, "L", 0}}, {"Log Out", std::nullopt}}};
     MenuTree tree = shapeMenus(raw, {FakeNodeSource::ref("/root"), "Editor"}, session);
     check(tree);
 

@@ -172,9 +172,9 @@ TEST_F(Settings, WhatCannotBeWrittenIsKeptAndNotReportedAsSavedUntilItCan) {
 }
 
 TEST_F(Settings, WhatWouldBeTooLargeToBeReadAgainIsNotWritten) {
-    std::string numbers = "{\"other\":[1";
-    for (int i = 0; i < 1'000'000; ++i) numbers += ",1";  // 2 MB, and 10 MB with one number to a line
-    numbers += "]}";
+    std::string numbers = "{\"other\":" + std::string(20, '[') + "1";
+    for (int i = 0; i < 60'000; ++i) numbers += ",1";  // 120 kB, and 5 MB with one number, indented, to a line
+    numbers += std::string(20, ']') + "}";
     write(file, numbers);
     qt::JsonUserDefaults defaults(file);
     defaults.setObject("key", true);
