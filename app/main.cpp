@@ -7,6 +7,7 @@
 #include <span>
 
 #include "app/CommandLine.h"
+#include "app/ProcessPrivacy.h"
 #include "core/KeyManager.h"
 #include "platform/EventFlags.h"
 #include "platform/appcast/UpdaterController.h"
@@ -159,8 +160,10 @@ bool goesOn(xdg::LaunchOutcome outcome) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    const bool isPrivate = keepProcessPrivate();
     if (const auto status = answerCommandLine(std::span(argv, argc).subspan(argc > 0 ? 1 : 0))) return *status;
     const Installed<Log, qt::StandardOutputLog> log;
+    if (!isPrivate) logLine("privacy: a debugger, and any program of this user, can read this one's memory");
     std::string error;
     // The toolkit would not say it and go, but crash.
     if (!x11::Connection::isPossible(error)) {

@@ -104,8 +104,8 @@ class Launcher(DesktopTest):
         services = self.session.folder / "data/dbus-1/services"
         services.mkdir(parents=True)
         service = (USR / f"share/dbus-1/services/{ID}.service").read_text()
-        # The tree lies elsewhere than it was configured for, the log is wanted, and a language.
-        command = f"/bin/sh -c 'LANGUAGE=zh_CN exec {USR}/bin/orlamo > {log.path}'"
+        # The tree lies elsewhere than it was configured for, the log is wanted, a language, and a look at the process.
+        command = f"/bin/sh -c 'LANGUAGE=zh_CN ORLAMO_DEBUGGABLE=1 exec {USR}/bin/orlamo > {log.path}'"
         (services / f"{ID}.service").write_text(service[:service.index("Exec=")] + f"Exec={command}\n")
         bus = self.session.session_bus
         accessible.call(bus, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "ReloadConfig")
