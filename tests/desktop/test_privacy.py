@@ -21,6 +21,14 @@ ORLAMO = "app.orlamo.Orlamo"
 BUS = "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus"
 
 
+def present(look):
+    """What `look` finds; nothing when that is gone by now."""
+    try:
+        return look()
+    except FileNotFoundError:
+        return b""
+
+
 def listening(pid):
     """The inodes of all sockets in that process's network that wait for somebody."""
     network = pathlib.Path(f"/proc/{pid}/net")
@@ -52,16 +60,20 @@ class Privacy(DesktopTest):
         return events
 
     def type_canary(self, editor):
-        before = editor.text().count(CANARY)
+        def typed():
+            return (editor.text() or "").count(CANARY)
+
+        before = typed()
         wait_until(editor.is_in_front, PATIENCE, "editor in front")
         self.screen.type(CANARY)
-        wait_until(lambda: editor.text().count(CANARY) > before, PATIENCE, "typed text")
+        wait_until(lambda: typed() > before, PATIENCE, "typed text")
 
     def test_no_key_typed_elsewhere_reaches_the_program_its_files_or_its_memory(self):
         self.start_program()
         editor = self.session.open_editor("mousepad", "")
         events = self.recorded()
         self.type_canary(editor)
+        self.assertEqual([], events.names)
         for end in (lambda: self.screen.tap(self.screen.ESCAPE), self.screen.double_press):
             self.wait_out_the_double_press()
             self.program.open_panel()
@@ -71,7 +83,7 @@ class Privacy(DesktopTest):
             self.type_canary(editor)
         # The focus was with the panel once: then, and only then, keys are told.
         self.assertIn("raw KeyPress", events.names)
-        events.names.clear()
+        events = self.recorded()
         self.session.start([PROGRAM]).wait(PATIENCE)
         self.program.wait_for_preferences()
         self.program.write_settings({**self.program.settings(), "isBlurStyle": False})
@@ -81,8 +93,8 @@ class Privacy(DesktopTest):
         self.type_canary(editor)
         self.assertEqual([], events.names)
         self.program.assert_alive()
-        holders = [path for path in self.session.folder.rglob("*") if path.is_file() and path != editor.file
-                   and CANARY.encode() in path.read_bytes()]
+        holders = [path for path in self.session.folder.rglob("*") if path != editor.file
+                   and CANARY.encode() in (present(path.read_bytes) if path.is_file() else b"")]
         self.assertEqual([], holders)
         if os.geteuid() == 0:
             memory = b"".join(processes_memory(self.program.pid))
@@ -117,16 +129,16 @@ class Privacy(DesktopTest):
         self.assertEqual([], [*self.session.folder.rglob("core*")])
 
     def test_no_file_of_it_is_for_others(self):
-        editor = self.session.open_editor("mousepad")
+        self.session.open_editor("mousepad")
         known = {*self.session.folder.rglob("*")}
         self.start_program()
         self.program.open_panel()
         self.program.stop()
         new = {*self.session.folder.rglob("*")} - known
         self.assertIn(self.program.settings_file, new)
-        editors_own = "at-spi2-socket-" + str(editor.pid)  # where its menus are read
-        self.assertEqual([], [path for path in new if path.lstat().st_mode & (stat.S_IRWXG | stat.S_IRWXO)
-                              and path.name != editors_own])
+        # The editor's own: where its menus are read, made when they are.
+        modes = {path: present(path.lstat) for path in new if "at-spi2-" not in str(path)}
+        self.assertEqual([], [path for path, of in modes.items() if of and of.st_mode & (stat.S_IRWXG | stat.S_IRWXO)])
 
     def test_it_listens_nowhere_but_at_its_names_on_the_session_bus(self):
         host = NotifierHost(self.session).start()
@@ -135,7 +147,7 @@ class Privacy(DesktopTest):
         item = host.wait_for_item(program.pid)
         self.session.open_editor("mousepad")
         program.open_panel()
-        links = [os.readlink(link) for link in pathlib.Path(f"/proc/{program.pid}/fd").iterdir()]
+        links = [str(present(link.readlink)) for link in pathlib.Path(f"/proc/{program.pid}/fd").iterdir()]
         sockets = set(re.findall(r"socket:\[(\d+)\]", " ".join(links)))
         self.assertTrue(sockets)
         self.assertEqual(set(), sockets & listening(program.pid))
