@@ -70,6 +70,7 @@ void ControlsWindow::retire() {
 }
 
 bool ControlsWindow::event(QEvent* event) {
+    if (listener_ == nullptr) return QWidget::event(event);  // which may be the end of this object
     const bool answer = QWidget::event(event);
     if (event->type() == QEvent::Resize && content_ != nullptr) content_->setGeometry(rect());
     if (listener_ == nullptr) return answer;
