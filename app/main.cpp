@@ -50,6 +50,7 @@ using namespace orlamo;
 namespace {
 
 constexpr auto preferencesAction = "preferences";  // as the desktop entry names it
+constexpr auto platformVariable = "QT_QPA_PLATFORM";
 
 /// Keeps an adapter and makes it the shared one of its interface.
 template <class Interface, class Adapter>
@@ -172,8 +173,11 @@ int main(int argc, char** argv) {
     }
     const auto ticket = xdg::ActivationTicket::ofThisLaunch();
     // The panel, its focus and its shape are those of an X session, also where another toolkit platform could start.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    const bool choosesPlatform = !qEnvironmentVariableIsSet(platformVariable);
+    if (choosesPlatform) qputenv(platformVariable, "xcb");
     QApplication application(argc, argv);
+    // The programs that it starts choose for themselves.
+    if (choosesPlatform) qunsetenv(platformVariable);
     QApplication::setQuitOnLastWindowClosed(false);
     // Whether it starts with the session is for the user's setting to say, not for what ran at the last log-out.
     QObject::connect(&application, &QGuiApplication::saveStateRequest,

@@ -105,9 +105,10 @@ class Xfce(SessionMenu):
         folder = self.session.folder / "bin"
         folder.mkdir()
         program = folder / "thunar"
-        program.write_text(f"#!/bin/sh\necho $# > {self.mark}\n")
+        program.write_text(f"#!/bin/sh\necho $#$QT_QPA_PLATFORM > {self.mark}\n")
         program.chmod(0o755)
         self.session.environment["PATH"] = f"{folder}:{self.session.environment['PATH']}"
+        del self.session.environment["QT_QPA_PLATFORM"]  # the program finds the right one by itself
         self.session.start_service(XFCONF)
         # The user's own keys, so that those that are shipped do not count.
         for path, value in {"/commands/custom/override": True, "/xfwm4/custom/override": True, **XFCE_KEYS}.items():
@@ -140,7 +141,8 @@ class Xfce(SessionMenu):
         self.wait_for_call(self.manager, ("Logout", True, True))
         self.program.open_panel()
         self.click("session.files")
-        wait_until(self.mark.exists, 5, "file manager")
+        wait_until(lambda: self.mark.exists() and self.mark.read_text(), 5, "file manager")
+        self.assertEqual("0\n", self.mark.read_text(), "neither words nor a platform of the toolkit that it did not ask for")
         self.program.open_panel()
         self.click("session.show_desktop")
         wait_until(lambda: self.screen.shows_desktop(), 5, "desktop")
