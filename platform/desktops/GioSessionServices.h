@@ -14,7 +14,8 @@ struct WindowRequests {
 };
 
 /// Services on the session bus, the window manager, and programs of the desktop. Looking who is there waits for the bus
-/// 150 ms in all between one refresh() and the next; performing waits for nobody.
+/// 150 ms in all between one refresh() and the next. Performing waits for no answer, and as long for a bus that was
+/// lost.
 class GioSessionServices final : public SessionServices {
 public:
     explicit GioSessionServices(WindowRequests windowManager);

@@ -6,7 +6,6 @@ namespace {
 
 using enum SessionRole;
 
-// The titles are looked up as "session." and this.
 constexpr std::string_view lockScreen = "session.lock";
 constexpr std::string_view logOutTitle = "session.log_out";
 constexpr std::string_view shutDownTitle = "session.shut_down";
