@@ -108,8 +108,9 @@ std::string titleUnlikeOthers(std::string title, const RawTree& raw) {
     return title;
 }
 
-MenuNode emptyRow() {
+MenuNode emptyRow(std::size_t number) {
     MenuNode node;
+    node.object.path = "row" + std::to_string(number);
     node.title = "space";
     node.isEnabled = true;
     node.shortcut = Shortcut{0, "A", 0};
@@ -155,11 +156,10 @@ MenuTree shapeMenus(const RawTree& raw, const ApplicationIdentity& application, 
     shaper.add(0, std::move(name));
     shaper.addMenus();
 
-    const auto hasNoCode = [](const SessionMenu::Item& item) {
-        return item.shortcut && !hasKeyCode(item.shortcut->character);
-    };
-    for (auto left = std::ranges::count_if(session.items, hasNoCode); left > 0; --left) {
-        shaper.add(placeBehindAll(tree), emptyRow());
+    const std::uint32_t place = placeBehindAll(tree);
+    for (std::size_t i = 0; i < session.items.size(); ++i) {
+        const auto& shortcut = session.items[i].shortcut;
+        if (shortcut && !hasKeyCode(shortcut->character)) shaper.add(place, emptyRow(i));
     }
     return tree;
 }

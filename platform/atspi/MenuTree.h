@@ -32,14 +32,15 @@ struct MenuNode {
 
     Kind kind = Kind::item;
     /// What it stands for on the bus: with the kind, its identity. A menu has that of the item it belongs to, the
-    /// application's name that of the application; a session item has none but its number as the path.
+    /// application's name that of the application; a session item has none but its number as the path, an empty row
+    /// likewise.
     ObjectRef object;
     std::optional<std::string> title;
     std::optional<bool> isEnabled;
     std::optional<Shortcut> shortcut;
     std::string keyBinding;  // as the toolkit wrote it
     std::optional<ObjectRole> role;
-    std::function<AXError()> press = {};  // session items only
+    std::function<AXError()> press = {};  // session items and empty rows only
     std::vector<std::uint32_t> children;  // indices into MenuTree::nodes
 };
 

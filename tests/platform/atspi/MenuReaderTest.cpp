@@ -109,6 +109,10 @@ TEST_F(MenuReading, ForASessionItemWhoseKeyHasNoCodeAnEmptyRowWithAKeyStandsBehi
     EXPECT_EQ(text(shape()), front + "A[:[New(0N) Sub[One(01)] space(0A)]] B[:[Old(8)]]]");
     source.objects["a"].children = {};
     EXPECT_EQ(text(shape()), front + "A[:] B[:[Old(8)]] space(0A)]");
+    session.items[1].shortcut->character = "F12";
+    const MenuTree two = shape();
+    EXPECT_EQ(text(two), "?[Session[:[Out(2DELETE) In(4F12)]] Editor A[:] B[:[Old(8)]] space(0A) space(0A)]");
+    EXPECT_NE(two.nodes.rbegin()[0].object, two.nodes.rbegin()[1].object) << "a walk would take them for one";
 }
 
 TEST_F(MenuReading, NothingIsAskedThatTheCacheKnows) {
