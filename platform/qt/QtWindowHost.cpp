@@ -27,10 +27,6 @@ const VisualEffectView* effectView(const Window& window) {
     return dynamic_cast<const VisualEffectView*>(window.contentView());
 }
 
-QRect toQRect(const PixelRect& r) {
-    return {r.x, r.y, r.width, r.height};
-}
-
 }  // namespace
 
 QtWindowHost::QtWindowHost(Window& window, TextCache& texts, QtApplication& application)

@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/qt/ScreenSpace.h"
+
 namespace orlamo::qt {
 
 namespace {
@@ -19,10 +21,6 @@ QImage toQImage(PixelImage&& image) {
 
 bool isSame(const PixelRect& a, const PixelRect& b) {
     return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
-}
-
-QRect toQRect(const PixelRect& r) {
-    return {r.x, r.y, r.width, r.height};
 }
 
 }  // namespace

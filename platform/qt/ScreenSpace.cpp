@@ -9,10 +9,6 @@ namespace orlamo::qt {
 
 namespace {
 
-QRect toQRect(const PixelRect& r) {
-    return {r.x, r.y, r.width, r.height};
-}
-
 QRect pixelsOf(const QScreen& screen) {
     return toQRect(toDevicePixels(screen.geometry(), screen));
 }
@@ -40,6 +36,10 @@ QRect toQt(const Rect& rect, const QRect& primaryScreen) {
 QRect primaryScreenRect() {
     const QScreen* const screen = QGuiApplication::primaryScreen();
     return screen != nullptr ? screen->geometry() : QRect();
+}
+
+QRect toQRect(const PixelRect& pixels) {
+    return {pixels.x, pixels.y, pixels.width, pixels.height};
 }
 
 PixelRect toDevicePixels(const QRect& rect, const QScreen& screen) {

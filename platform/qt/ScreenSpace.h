@@ -23,6 +23,8 @@ QRect toQt(const Rect& rect, const QRect& primaryScreen);
 /// Of the primary screen, in Qt's coordinates; empty without a screen.
 QRect primaryScreenRect();
 
+/// The same numbers, for Qt's own arithmetic.
+QRect toQRect(const PixelRect& pixels);
 /// As Qt places a window of that geometry on the screen.
 PixelRect toDevicePixels(const QRect& rect, const QScreen& screen);
 /// The points of that screen, going on beyond its edges, that touch these pixels.
