@@ -7,11 +7,11 @@
 
 namespace orlamo {
 
-/// Every code point is one character, 0.6 times the point size wide.
+/// Every code point is one character, `width` times the point size wide.
 class FakeTextMetrics : public TextMetrics {
 public:
     Size measure(std::string_view text, int pointSize) override {
-        return {static_cast<double>(characterEnds(text).size()) * 0.6 * pointSize, 1.2 * pointSize};
+        return {static_cast<double>(characterEnds(text).size()) * width * pointSize, 1.2 * pointSize};
     }
     std::vector<std::size_t> characterEnds(std::string_view text) override {
         std::vector<std::size_t> ends;
@@ -21,6 +21,7 @@ public:
         }
         return ends;
     }
+    double width = 0.6;
 
 private:
     Installation installation_{*this};

@@ -132,6 +132,16 @@ TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOve
     EXPECT_EQ(view->currentShortM.at(0).title, std::string(24, 'x') + "...");
 }
 
+TEST_F(CanvasViewLayout, APrefixOfJust147PointsIsNotOverItAndAListWithoutANameHasOnlyEntries) {
+    desktop.metrics.width = 0.7;
+    addItem(std::string(66, 'x'));
+    open();
+    EXPECT_EQ(view->currentShortM.at(0).title, std::string(22, 'x') + "...") << "21 make 147";
+    appMenuItems.pop_back();
+    draw();
+    EXPECT_EQ(view->currentShortM.size(), 1U);
+}
+
 TEST_F(CanvasViewLayout, WithoutTheSessionMenuTheFirstFiveEntriesAreTakenOutButNeverTheName) {
     desktop.defaults.values["isContainsAppleMenu"] = false;
     addHeading("Session");

@@ -28,6 +28,7 @@ TEST_F(CanvasViewPointer, HighlightsOneCellAtATimeAndNoneWithoutModifiers) {
     moveTo(view->shortcutsM.at(0).rect);
     EXPECT_FALSE(view->currentHighlightedRect);
     EXPECT_EQ(view->systemHighlightedRect, view->shortcutsM[0].rect);
+    EXPECT_TRUE(view->isMouseInsideRect);
 
     moveTo(view->shortcutsM.at(1).rect);
     EXPECT_FALSE(view->systemHighlightedRect);
@@ -46,6 +47,9 @@ TEST_F(CanvasViewPointer, SystemCellsWorkWithoutAnyApplicationCell) {
 TEST_F(CanvasViewPointer, EveryMoveAsksForAPassAndLeavingEndsTheHighlight) {
     addItem("Save");
     open();
+    draw();
+    view->mouseEntered({});
+    EXPECT_TRUE(view->needsDisplay());
     draw();
     moveTo(view->currentShortM.at(0).rect);
     EXPECT_TRUE(view->needsDisplay());

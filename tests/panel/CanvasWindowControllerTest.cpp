@@ -59,6 +59,7 @@ TEST_F(PanelController, WithoutBlurTheMaterialIsThePlainerOneAndAllElseStays) {
         EXPECT_EQ(static_cast<int>(blur->state), 1);
         EXPECT_EQ(static_cast<int>(blur->blendingMode), 1);
         EXPECT_EQ(blur->maskImage->cornerRadius, 30);
+        EXPECT_FALSE(blur->maskImage->flipped);
         controller.hideShortcutWindow();
     }
 }
