@@ -108,6 +108,9 @@ TEST_F(CanvasViewDrawing, AMenuHeadingIsABarAndASubmenuHeadingATriangle) {
     const double y = view->currentShortM.at(0).rect.y;
     EXPECT_EQ(context.find("Edit")->pointSize, 16);
     EXPECT_EQ(context.find("Edit")->origin, (Point{20, y + 60 + 1}));
+    const auto& bar = context.fills.at(2).path.elements;
+    EXPECT_EQ(bar[1].point, (Point{5, y + 60 + 5}));
+    EXPECT_EQ(bar[3].point.y, y + 60 + 29 - 5) << "a point less than the row";
     EXPECT_EQ(context.find("Suchen")->color, Color::white(0.5));
     EXPECT_EQ(context.find("Suchen")->origin, (Point{27, y + 30}));
     Path triangle;
