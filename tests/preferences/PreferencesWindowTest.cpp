@@ -126,6 +126,11 @@ TEST(RowView, IsLightUnderThePointerAndDarkWhenSelected) {
     row.mouseExited({});
     EXPECT_TRUE(row.needsDisplay());
     EXPECT_EQ(drawn(row), dark);
+    row.isSelected = false;
+    EXPECT_EQ(drawn(row), Fills{});
+    row.isSelected = true;
+    row.setFrame({0, 0, 26, 6});
+    EXPECT_EQ(drawn(row), (Fills{{Path::roundedRect({12.5, 2.5, 1, 1}, 10), {0, 0, 0, 0.35}}}));
     row.selectionHighlightStyle = TableRowView::SelectionHighlightStyle::none;
     EXPECT_EQ(drawn(row), Fills{});
 }

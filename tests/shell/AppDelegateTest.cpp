@@ -165,9 +165,11 @@ TEST_F(Launch, OneMissingOrMistypedBooleanResetsAllFive) {
 TEST_F(Launch, FiveStoredBooleansStayAsTheyWere) {
     for (const auto& [name, initial] : initialBooleans) desktop.defaults.values[name] = !std::get<bool>(initial);
     desktop.defaults.values["isBlurStyle"] = 0.0;
+    desktop.defaults.values["isHiddenStatusBar"] = std::int64_t{1};
     Values before = desktop.defaults.values;
     writeDefaultValues(desktop.defaults);
     before["isBlurStyle"] = false;
+    before["isHiddenStatusBar"] = true;
     EXPECT_EQ(desktop.defaults.values, before);
 }
 
