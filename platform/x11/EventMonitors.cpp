@@ -17,11 +17,13 @@ constexpr double settlingSeconds = 0.1;
 EventMonitors::EventMonitors(Connection& connection, CoreKeyboard& keyboard, Windows& windows)
     : connection_(connection), keyboard_(keyboard), windows_(windows) {
     keyboard_.onModifiersChanged([this](std::uint64_t flags) { modifiersChanged(flags); });
+    windows_.onFocusing([this](bool comes) { focusing(comes); });
     subscription_ = connection_.subscribe([this](const xcb_generic_event_t& event) { received(event); });
 }
 
 EventMonitors::~EventMonitors() {
     keyboard_.onModifiersChanged(nullptr);
+    windows_.onFocusing(nullptr);
 }
 
 std::optional<EventMonitors::MonitorToken> EventMonitors::addLocalMonitor(EventMask mask, LocalHandler handler) {
@@ -101,6 +103,13 @@ void EventMonitors::keyPressed(std::uint32_t keycode) {
 
 void EventMonitors::focusMoved() {
     if (!checkFocus()) deliverWaitingPress();
+}
+
+// The news of the focus is read after the panel's first drawing pass; an Escape before that would be lost.
+void EventMonitors::focusing(bool comes) {
+    if (!comes) return static_cast<void>(checkFocus());
+    hasFocus_ = true;
+    selectRawEvents();
 }
 
 bool EventMonitors::checkFocus() {

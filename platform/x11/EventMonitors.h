@@ -30,6 +30,7 @@ private:
     void buttonPressed(std::uint32_t physicalButton);
     void keyPressed(std::uint32_t keycode);
     void focusMoved();
+    void focusing(bool comes);
     /// Whether this program has the focus; raw keys are selected accordingly.
     bool checkFocus();
     void deliverWaitingPress();

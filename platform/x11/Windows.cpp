@@ -91,7 +91,11 @@ bool Windows::isUnmanaged(xcb_window_t window) {
 bool Windows::setFocus(xcb_window_t window) {
     if (!isViewable(window)) return false;
     const xcb_timestamp_t now = connection_.serverTime();
-    return connection_.succeeded(xcb_set_input_focus_checked(connection_.xcb(), XCB_INPUT_FOCUS_PARENT, window, now));
+    if (focusing_) focusing_(true);
+    const bool taken =
+        connection_.succeeded(xcb_set_input_focus_checked(connection_.xcb(), XCB_INPUT_FOCUS_PARENT, window, now));
+    if (!taken && focusing_) focusing_(false);
+    return taken;
 }
 
 void Windows::activate(xcb_window_t window) {

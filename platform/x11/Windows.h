@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,10 @@ public:
     bool isUnmanaged(xcb_window_t window);
     /// False when the window cannot take it.
     bool setFocus(xcb_window_t window);
+    /// Called with true just before one of this program's windows is given the focus, so that what is asked of the
+    /// server then is in force with the first key that arrives there; with false when the window did not take it. One
+    /// listener.
+    void onFocusing(std::function<void(bool)> listener) { focusing_ = std::move(listener); }
     /// To the front, with the focus, as when the user asks for it; without a window manager at once.
     void activate(xcb_window_t window);
     /// A request about a window in the words of the window managers' convention.
@@ -67,6 +72,7 @@ private:
     int processByResource(xcb_window_t window);
 
     Connection& connection_;
+    std::function<void(bool)> focusing_;
     int ownProcess_;  // this process by the server's count, which differs in a container
 };
 

@@ -1,4 +1,6 @@
 """Opening and closing the panel, as a user does it."""
+import time
+
 from case import DesktopTest
 from program import SHOWS
 from screen import wait_until
@@ -37,6 +39,18 @@ class Trigger(DesktopTest):
         wait_until(editor.is_in_front, 5, "editor in front")
         self.screen.type("x")
         wait_until(lambda: editor.text() == "xone", 5, "typed letter in the editor")
+
+    def test_an_escape_in_the_very_moment_of_the_focus_closes_the_panel(self):
+        self.session.open_editor("mousepad")
+        before = self.screen.display.get_input_focus().focus
+        for _ in range(3):
+            self.screen.double_press()
+            deadline = time.monotonic() + 5
+            while self.screen.display.get_input_focus().focus == before and time.monotonic() < deadline:
+                pass  # no pause, and nothing else asked: the program is just drawing
+            self.screen.tap(self.screen.ESCAPE)
+            self.program.wait_until_closed(2)
+            self.wait_out_the_double_press()
 
     def test_the_next_double_press_closes_the_panel_and_one_more_opens_it(self):
         editor = self.session.open_editor("featherpad")
