@@ -3,6 +3,7 @@
 #include <xcb/xtest.h>
 
 #include <ranges>
+#include <utility>
 
 #include "platform/Log.h"
 #include "platform/x11/KeyGrabs.h"
@@ -30,14 +31,13 @@ private:
 
 void EventPoster::CGEventPost(EventTapLocation, const KeyboardEvent& event) {
     if (event.keyDown) {
-        press(event);
-    } else if (posted_ && posted_->virtualKeyCode == event.keyCode) {
-        release();
+        keyDown_ = event;
+    } else if (keyDown_ && keyDown_->keyCode == event.keyCode) {
+        type(*std::exchange(keyDown_, std::nullopt));
     }
 }
 
-void EventPoster::press(const KeyboardEvent& event) {
-    if (posted_) release();
+void EventPoster::type(const KeyboardEvent& event) {
     if (!connection_.extensions().xtest || !keyboard_.isAvailable()) {
         return refuse(event, "the X server does not let programs type");
     }
@@ -48,22 +48,16 @@ void EventPoster::press(const KeyboardEvent& event) {
     const ServerGrab grab(connection_);
     const auto held = keyboard_.heldKeys();
     if (!held) return refuse(event, "the X server does not answer");
-    auto plan = planPosting(keyboard_.layoutNow(), *held, event.keyCode, event.flags, desktop);
+    const auto plan = planPosting(keyboard_.layoutNow(), *held, event.keyCode, event.flags, desktop);
     if (const auto* const refusal = std::get_if<Refusal>(&plan)) return refuse(event, refusal->reason);
 
-    posted_ = Posted{event.keyCode, std::get<PostingPlan>(std::move(plan))};
-    if (!posted_->plan.modifiers.empty()) keyboard_.expectOwnTyping();  // no press of the trigger key
-    for (const std::uint8_t modifier : posted_->plan.modifiers) fakeKey(XCB_KEY_PRESS, modifier);
-    fakeKey(XCB_KEY_PRESS, posted_->plan.key);
-}
-
-void EventPoster::release() {
-    fakeKey(XCB_KEY_RELEASE, posted_->plan.key);
-    for (const std::uint8_t modifier : posted_->plan.modifiers | std::views::reverse) {
-        fakeKey(XCB_KEY_RELEASE, modifier);
-    }
-    posted_.reset();
-    connection_.flush();
+    const auto& [modifiers, key] = std::get<PostingPlan>(plan);
+    if (!modifiers.empty()) keyboard_.expectOwnTyping();  // no press of the trigger key
+    // From here to the flush nothing may wait for an answer: that would send the presses without their releases.
+    for (const std::uint8_t modifier : modifiers) fakeKey(XCB_KEY_PRESS, modifier);
+    fakeKey(XCB_KEY_PRESS, key);
+    fakeKey(XCB_KEY_RELEASE, key);
+    for (const std::uint8_t modifier : modifiers | std::views::reverse) fakeKey(XCB_KEY_RELEASE, modifier);
 }
 
 void EventPoster::fakeKey(std::uint8_t type, std::uint8_t keycode) {

@@ -16,28 +16,23 @@ public:
     EventPoster(Connection& connection, CoreKeyboard& keyboard, WindowManager& windowManager)
         : connection_(connection), keyboard_(keyboard), windowManager_(windowManager) {}
 
-    /// A key-down presses the modifiers that are not held yet and the key; the key-up of the same code releases just
-    /// those. A key-up without its key-down does nothing.
+    /// A key-down is kept until the key-up of the same code. Then the modifiers that are not held yet and the key are
+    /// pressed and released in one write: the server gets all of it or nothing, so a program that is killed meanwhile
+    /// leaves no key pressed. A key-up without its key-down does nothing.
     void CGEventPost(EventTapLocation tap, const KeyboardEvent& event) override;
     /// Drops it. The X server has one pointer for all: a press without its release would leave the user with a button
     /// that every program takes for held.
     void CGEventPost(EventTapLocation, const PointerEvent&) override {}
 
 private:
-    void press(const KeyboardEvent& event);
-    void release();
+    void type(const KeyboardEvent& event);
     void fakeKey(std::uint8_t type, std::uint8_t keycode);
     static void refuse(const KeyboardEvent& event, const std::string& reason);
-
-    struct Posted {
-        std::uint16_t virtualKeyCode = 0;
-        PostingPlan plan;
-    };
 
     Connection& connection_;
     CoreKeyboard& keyboard_;
     WindowManager& windowManager_;
-    std::optional<Posted> posted_;
+    std::optional<KeyboardEvent> keyDown_;  // its key-up has not come
 };
 
 }  // namespace orlamo::x11

@@ -14,6 +14,11 @@ PEER = os.environ.get("ORLAMO_HOSTILE_PEER", str(pathlib.Path(PROGRAM).with_name
 EVIDENCE = pathlib.Path(os.environ.get("ORLAMO_EVIDENCE", ROOT / "build/desktop-tests"))
 
 
+def repetitions(few, many):
+    """How often a test tries: `make endurance` has the time for many."""
+    return many if os.environ.get("ORLAMO_ENDURANCE") else few
+
+
 class DesktopTest(unittest.TestCase):
     """A test may set the session's arguments, and settings and environment of the program, in its class."""
 
