@@ -230,7 +230,7 @@ int main(int argc, char** argv) {
             return std::make_unique<qt::QtControlsWindowHost>(window, owner);
         });
     const Installed<InterfaceFiles, qt::QtInterfaceFiles> interfaceFiles;
-    const Installed<StatusBar, qt::QtStatusBar> statusBar(*connection);
+    Installed<StatusBar, qt::QtStatusBar> statusBar(*connection);
     const Installed<Updates, appcast::Updater> updates(&program);
 
     SessionMenus sessionMenus(settings, windowManager, focus);
@@ -246,6 +246,7 @@ int main(int argc, char** argv) {
     delegate.applicationWillFinishLaunching();
     activation.answerWaiting();
     delegate.applicationDidFinishLaunching();
+    activation.onReturn([&statusBar] { statusBar.adapter.sessionBusReturned(); });
     activation.setHandler([&delegate, &connection](const xdg::Activation& wanted) {
         if (wanted.action == preferencesAction) {
             delegate.openSettings();

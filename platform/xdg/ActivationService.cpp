@@ -19,6 +19,7 @@ using std::chrono::steady_clock;
 
 constexpr const char* interface = "org.freedesktop.Application";
 constexpr microseconds patience = std::chrono::seconds(1);
+constexpr double searchSeconds = 0.5;
 constexpr std::size_t longestShown = 100;  // bytes of a name from outside
 
 std::string objectPath(const std::string& name) {
@@ -63,19 +64,15 @@ void ActivationService::close() {
 }
 
 /// A bus that accepts the connection and then says nothing is no bus.
-bool ActivationService::connect() {
-    const auto failed = [](int error) {
-        logLine(std::string("no session bus: ") + std::strerror(-error));
-        return false;
-    };
-    if (const int result = sd_bus_open_user(&bus_); result < 0) return failed(result);
+int ActivationService::connect() {
+    if (const int result = sd_bus_open_user(&bus_); result < 0) return result;
     const auto deadline = steady_clock::now() + patience;
     while (sd_bus_is_ready(bus_) <= 0) {
         const int result = sd_bus_process(bus_, nullptr);
-        if (result < 0) return failed(result);
+        if (result < 0) return result;
         if (result > 0) continue;
-        if (steady_clock::now() >= deadline) return failed(-ETIMEDOUT);
-        if (const int waited = sd_bus_wait(bus_, left(deadline)); waited < 0 && waited != -EINTR) return failed(waited);
+        if (steady_clock::now() >= deadline) return -ETIMEDOUT;
+        if (const int waited = sd_bus_wait(bus_, left(deadline)); waited < 0 && waited != -EINTR) return waited;
     }
     sd_bus_set_method_call_timeout(bus_, static_cast<std::uint64_t>(patience.count()));
     constexpr auto anybody = SD_BUS_VTABLE_UNPRIVILEGED;
@@ -88,7 +85,7 @@ bool ActivationService::connect() {
     };
     // Before the name is ours, so that nobody finds the name without the object.
     const int result = sd_bus_add_object_vtable(bus_, nullptr, path_.c_str(), interface, methods, this);
-    return result >= 0 || failed(result);
+    return std::min(result, 0);
 }
 
 int ActivationService::answerActivate(sd_bus_message* message) {
@@ -149,7 +146,8 @@ int ActivationService::handOver(const ActivationTicket& ticket) {
 }
 
 LaunchOutcome ActivationService::launch(const ActivationTicket& ticket) {
-    if (!connect()) {
+    if (const int error = connect(); error < 0) {
+        logLine(std::string("no session bus: ") + std::strerror(-error));
         close();
         return LaunchOutcome::noBus;
     }
@@ -172,9 +170,12 @@ LaunchOutcome ActivationService::launch(const ActivationTicket& ticket) {
 
 void ActivationService::setHandler(Handler handler) {
     handler_ = std::move(handler);
-    if (bus_ == nullptr || watch_) return;
+    if (bus_ != nullptr && !watch_) watch();
+}
+
+void ActivationService::watch() {
     watch_ = RunLoop::shared().watchReadable(sd_bus_get_fd(bus_), [this] { answerWaiting(); });
-    // What came in during launch() has been read already, so the descriptor stays silent about it.
+    // What came in so far has been read already, so the descriptor stays silent about it.
     RunLoop::shared().asyncAfter(0, [this, alive = std::weak_ptr<bool>(isAlive_)] {
         if (!alive.expired()) answerWaiting();
     });
@@ -185,8 +186,30 @@ void ActivationService::answerWaiting() {
     while (bus_ != nullptr && (result = sd_bus_process(bus_, nullptr)) > 0) {
     }
     if (result >= 0) return;
-    logLine("the session bus is gone; a second launch will not find this program");
+    lost();
+}
+
+void ActivationService::lost() {
+    logLine("the session bus is gone; until it returns, a second launch will not find this program");
     close();
+    search_ = RunLoop::shared().scheduleRepeatingTimer(searchSeconds, [this] { lookForBus(); });
+}
+
+/// One that lets nobody in, or says nothing, is not waited for a second time.
+void ActivationService::lookForBus() {
+    const int error = connect();
+    const int result = error < 0 ? error : sd_bus_request_name(bus_, name_.c_str(), 0);
+    if (result >= 0) {
+        search_.reset();
+        logLine("the session bus is there again");
+        watch();
+        if (returned_) returned_();
+        return;
+    }
+    close();
+    if (result != -ETIMEDOUT && result != -EACCES && result != -EPERM && result != -EEXIST) return;
+    logLine(std::string("the session bus is there again, but not for this program: ") + std::strerror(-result));
+    search_.reset();
 }
 
 }  // namespace orlamo::xdg

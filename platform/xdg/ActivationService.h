@@ -46,12 +46,19 @@ public:
     /// From now on, with the run loop: called for each activation, also for those that came in since launch(). Only
     /// after an outcome `first`; otherwise it is never called.
     void setHandler(Handler handler);
+    /// Called when the bus was lost and answers again, under the same address; it is looked for twice a second as long
+    /// as it is gone. This program then has its name back. After setHandler().
+    void onReturn(std::function<void()> listener) { returned_ = std::move(listener); }
     /// Answers what has come in so far, without the run loop: for a launch that takes its time. The handler hears of it
     /// once it is set and the loop runs.
     void answerWaiting();
 
 private:
-    bool connect();
+    /// None, or the error that there is no bus.
+    int connect();
+    void watch();
+    void lost();
+    void lookForBus();
     int handOver(const ActivationTicket& ticket);
     int answerActivate(sd_bus_message* message);
     int answerActivateAction(sd_bus_message* message);
@@ -64,7 +71,9 @@ private:
     std::vector<std::string> actions_;
     sd_bus* bus_ = nullptr;
     Handler handler_;
+    std::function<void()> returned_;
     std::unique_ptr<RunLoop::Handle> watch_;
+    std::unique_ptr<RunLoop::Handle> search_;                       // while the bus is gone
     std::shared_ptr<bool> isAlive_ = std::make_shared<bool>(true);  // for the first look at what came in
 };
 

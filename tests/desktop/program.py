@@ -10,6 +10,7 @@ from session import PATIENCE
 
 SHOWS = "------------ 双击显示窗口 --------------"
 BUILDS = "获取到了快捷键，就设置UI"
+CLOSES = "关闭快捷键窗口"
 LAUNCHED = "launch: settings observers"
 APPLICATION_LIST = "获取应用快捷键=====  "
 SYSTEM_LIST = "获取系统快捷键=====  "
@@ -32,6 +33,13 @@ class Log:
         self._read += len(new)
         self._lines += new.decode("utf-8", "replace").split("\n")[:-1]
         return self._lines[since:]
+
+    def forget(self):
+        """Gives the disk back what was written so far; the program goes on writing where it is."""
+        self.lines()
+        self._lines.clear()
+        with self.path.open("r+b") as file:
+            file.truncate(0)
 
     def mark(self):
         """Where the log ends now, for `since`."""

@@ -133,8 +133,13 @@ class Screen:
                 return None
         return None
 
+    def window_manager(self):
+        """The window by which the running one is known; None without one."""
+        found = self._property(self.root, "_NET_SUPPORTING_WM_CHECK", Xatom.WINDOW)
+        return found[0] if found is not None else None
+
     def window_manager_runs(self):
-        return self._property(self.root, "_NET_SUPPORTING_WM_CHECK", Xatom.WINDOW) is not None
+        return self.window_manager() is not None
 
     def compositor_runs(self):
         return self.display.get_selection_owner(self.display.intern_atom("_NET_WM_CM_S0")) != X.NONE

@@ -108,14 +108,20 @@ class DesktopSession:
         self.screen = Screen(self.environment["DISPLAY"])
 
     def _start_buses(self):
-        reading, writing = os.pipe()
-        self.bus = self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"],
-                              pass_fds=(writing,))
-        os.close(writing)
-        with os.fdopen(reading) as address:
-            self.environment["DBUS_SESSION_BUS_ADDRESS"] = address.readline().strip()
-        self.session_bus = accessible.connect(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={self.folder}/run/bus"
+        self.start_session_bus()
         self.start_accessibility()
+
+    def start_session_bus(self):
+        """Also after it was stopped: a new bus under the same address, as a login has it."""
+        address = self.environment["DBUS_SESSION_BUS_ADDRESS"]
+        reading, writing = os.pipe()
+        self.bus = self.start(["dbus-daemon", "--session", "--nofork", f"--address={address}",
+                               f"--print-address={writing}"], pass_fds=(writing,))
+        os.close(writing)
+        with os.fdopen(reading) as listens:
+            listens.readline()
+        self.session_bus = accessible.connect(address)
 
     def start_accessibility(self):
         """Also after it was stopped: a new bus under a new address."""
@@ -149,9 +155,10 @@ class DesktopSession:
 
     def start_compositor(self):
         if self.screen.compositor_runs():
-            return
-        self.start(["picom", "--config", "/dev/null", "--backend", "xrender"])
+            return None
+        compositor = self.start(["picom", "--config", "/dev/null", "--backend", "xrender"])
         wait_until(self.screen.compositor_runs, PATIENCE, "compositor")
+        return compositor
 
     # Processes.
     def start(self, words, output=subprocess.DEVNULL, environment=None, pass_fds=()):

@@ -4,7 +4,7 @@ import signal
 import time
 
 from case import DesktopTest, PEER
-from program import BUILDS, SHOWS
+from program import BUILDS, CLOSES, SHOWS
 from screen import wait_until
 from session import PATIENCE, Application
 
@@ -27,7 +27,7 @@ class Faults(DesktopTest):
         self.screen.double_press()
         self.program.log.wait_for(SHOWS, since)
         self.screen.click(2, 2)
-        self.program.log.wait_for("关闭快捷键窗口", since)
+        self.program.log.wait_for(CLOSES, since)
         return time.monotonic() - start
 
     def test_a_stopped_application_is_answered_within_about_a_second(self):
@@ -48,16 +48,6 @@ class Faults(DesktopTest):
         self.program.log.wait_for("点击操作失败，错误码：", since)
         self.program.wait_until_closed()
         self.assert_works()
-
-    def test_after_a_restart_of_the_accessibility_bus_the_panel_works_within_two_seconds(self):
-        editor = self.session.open_editor("mousepad")
-        self.program.open_panel()
-        self.screen.tap(self.screen.ESCAPE)
-        self.program.wait_until_closed()
-        self.session.stop(editor.process)
-        self.session.stop(self.session.accessibility, signal.SIGKILL)
-        self.session.start_accessibility()
-        self.assert_works(seconds=2)
 
     def test_without_an_accessibility_bus_no_panel_opens_and_the_program_lives_on(self):
         self.session.open_editor("mousepad")

@@ -5,7 +5,11 @@
 namespace orlamo::qt {
 
 std::unique_ptr<StatusItem> QtStatusBar::statusItemWithLength(double) {
-    return std::make_unique<QtStatusItem>(connection_);
+    return std::make_unique<QtStatusItem>(connection_, items_);
+}
+
+void QtStatusBar::sessionBusReturned() {
+    for (QtStatusItem* const item : *items_) item->connectToBus();
 }
 
 }  // namespace orlamo::qt

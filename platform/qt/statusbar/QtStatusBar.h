@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <set>
+
 #include "platform/StatusBar.h"
 
 namespace orlamo::x11 {
@@ -7,6 +10,8 @@ class Connection;
 }
 
 namespace orlamo::qt {
+
+class QtStatusItem;
 
 /// The desktop's status area: the panel's list of status items on the session bus where there is such a panel, else the
 /// X server's notification area. Follows panels that come, go and start again, without looking for them.
@@ -16,8 +21,11 @@ public:
     explicit QtStatusBar(x11::Connection& connection) : connection_(connection) {}
 
     std::unique_ptr<StatusItem> statusItemWithLength(double length) override;
+    /// The session bus was lost and answers again: the items go back to it.
+    void sessionBusReturned();
 
 private:
+    std::shared_ptr<std::set<QtStatusItem*>> items_ = std::make_shared<std::set<QtStatusItem*>>();  // those that live
     x11::Connection& connection_;
 };
 

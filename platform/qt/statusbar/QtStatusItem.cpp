@@ -25,6 +25,7 @@ constexpr QRgb inkOnAny = 0xff808080;  // a panel's menus need not be like the p
 // Panels that know the symbolic kind of a theme's icons colour it themselves.
 constexpr auto symbolicIcon = "app.orlamo.Orlamo-symbolic";
 constexpr auto connectionName = "orlamo-status-item";
+constexpr auto desktopConnectionName = "orlamo-status-area";
 
 QImage drawn(const NamedImage& image, int size, QColor ink) {
     if (image.name.empty()) return {};
@@ -39,7 +40,10 @@ bool isThereABus() {
 }
 
 QDBusConnection sessionBus() {
-    QDBusConnection bus = isThereABus() ? QDBusConnection::sessionBus() : QDBusConnection(QString());
+    // The library's own shared connection stays lost once it is lost.
+    QDBusConnection bus = isThereABus()
+                              ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, desktopConnectionName)
+                              : QDBusConnection(QString());
     if (!bus.isConnected()) logLine("status icon: no session bus, so only the X server's notification area");
     return bus;
 }
@@ -72,16 +76,32 @@ public:
     MenuService menu;
 };
 
-QtStatusItem::QtStatusItem(x11::Connection& connection)
-    : connection_(connection),
-      bus_(sessionBus()),
-      hosts_(bus_, [this] { place(); }),
-      scheme_(bus_, [this] { updateBusIcon(); }),
-      panelColor_(connection, [this] { updateBusIcon(); }) {
-    registerBusValues();
+QtStatusItem::Desktop::Desktop(QtStatusItem& item)
+    : bus(sessionBus()), hosts(bus, [&item] { item.place(); }), scheme(bus, [&item] { item.updateBusIcon(); }) {}
+
+QtStatusItem::Desktop::~Desktop() {
+    QDBusConnection::disconnectFromBus(desktopConnectionName);
 }
 
-QtStatusItem::~QtStatusItem() = default;
+QtStatusItem::QtStatusItem(x11::Connection& connection, std::shared_ptr<std::set<QtStatusItem*>> living)
+    : connection_(connection),
+      desktop_(std::make_unique<Desktop>(*this)),
+      panelColor_(connection, [this] { updateBusIcon(); }),
+      living_(std::move(living)) {
+    registerBusValues();
+    living_->insert(this);
+}
+
+QtStatusItem::~QtStatusItem() {
+    living_->erase(this);
+}
+
+// The icon stays where it is until a panel on the bus has answered.
+void QtStatusItem::connectToBus() {
+    busItem_.reset();
+    desktop_.reset();  // first: the new connection has the same name
+    desktop_ = std::make_unique<Desktop>(*this);
+}
 
 void QtStatusItem::setImage(const NamedImage& image) {
     image_ = image;
@@ -113,7 +133,7 @@ void QtStatusItem::setVisible(bool visible) {
 }
 
 void QtStatusItem::place() {
-    const auto state = hosts_.state();
+    const auto state = desktop_->hosts.state();
     const bool isOnBus = isVisible_ && state == NotifierHosts::State::there;
     if (!isOnBus) busItem_.reset();
     const bool isInTray = isVisible_ && state == NotifierHosts::State::none;
@@ -129,14 +149,14 @@ void QtStatusItem::place() {
         busItem_->menu.setMenu(menu_);
         updateBusIcon();
     }
-    hosts_.registerItem(busItem_->service);
+    desktop_->hosts.registerItem(busItem_->service);
 }
 
 /// Items on the bus are not told what the panel looks like. Most panels have both kinds of icons, and tell it to the
 /// other kind.
 QColor QtStatusItem::busInk() const {
     if (const auto foreground = panelColor_.foreground()) return QColor(QRgb(*foreground));
-    return QColor(scheme_.isLight() ? inkOnLight : inkOnDark);
+    return QColor(desktop_->scheme.isLight() ? inkOnLight : inkOnDark);
 }
 
 void QtStatusItem::updateBusIcon() {

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <memory>
 #include <optional>
+#include <set>
 
 #include "platform/StatusBar.h"
 #include "platform/qt/statusbar/ColorScheme.h"
@@ -18,8 +19,12 @@ namespace orlamo::qt {
 /// One icon in one place at a time: on the bus while a panel there draws it, else in the notification area.
 class QtStatusItem final : public StatusItem {
 public:
-    explicit QtStatusItem(x11::Connection& connection);
+    /// Is in `living` for as long as it lives.
+    QtStatusItem(x11::Connection& connection, std::shared_ptr<std::set<QtStatusItem*>> living);
     ~QtStatusItem() override;
+
+    /// Also after the session bus was lost.
+    void connectToBus();
 
     void setImage(const NamedImage& image) override;
     void setMenu(const Menu& menu) override;
@@ -29,6 +34,14 @@ public:
 private:
     /// The item's objects on a bus connection of their own, which takes them off the panel when it closes.
     class BusItem;
+    /// What the session bus tells; one for each connection to it.
+    struct Desktop {
+        explicit Desktop(QtStatusItem& item);
+        ~Desktop();
+        QDBusConnection bus;
+        NotifierHosts hosts;
+        ColorScheme scheme;
+    };
 
     void place();
     QColor busInk() const;
@@ -43,11 +56,10 @@ private:
     QMenu popUp_;
     std::unique_ptr<BusItem> busItem_;
     std::optional<x11::TrayIcon> trayIcon_;
-    QDBusConnection bus_;
     // These call back, the last one at once.
-    NotifierHosts hosts_;
-    ColorScheme scheme_;
+    std::unique_ptr<Desktop> desktop_;
     x11::PanelColor panelColor_;
+    std::shared_ptr<std::set<QtStatusItem*>> living_;
 };
 
 }  // namespace orlamo::qt
