@@ -1,6 +1,6 @@
 # The commands of this project. `make help` lists them.
 .DEFAULT_GOAL := help
-.PHONY: help run test fuzz sanitize package package-test bench picture pictures format check mutate tidy hooks clean
+.PHONY: help run test fuzz sanitize endurance package package-test bench picture pictures format check mutate tidy hooks clean
 
 help: ## this list
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "make %-12s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
@@ -28,6 +28,13 @@ sanitize: ## run all tests under AddressSanitizer, LeakSanitizer and UndefinedBe
 	@cmake --preset sanitize
 	@cmake --build --preset sanitize
 	@ctest --preset sanitize -j $$(nproc)
+
+endurance: ## an hour of showings, thousands of keys, services killed again and again; MINUTES=10 for a shorter hour
+	@scripts/setup build run demo test
+	@cmake --preset release
+	@cmake --build --preset release --target orlamo orlamo_resources orlamo_typing
+	@cd tests/desktop && ORLAMO_ENDURANCE=1 PYTHONDONTWRITEBYTECODE=1 /usr/bin/python3 -m unittest -v test_typing test_recovery
+	@bench/endurance --minutes $(or $(MINUTES),60)
 
 package: ## build the Debian package, and have it judged
 	@scripts/setup build package
