@@ -2,10 +2,12 @@
 
 #include <xcb/xtest.h>
 
+#include <optional>
 #include <ranges>
 #include <utility>
 
 #include "platform/Log.h"
+#include "platform/x11/ConnectionKeeper.h"
 #include "platform/x11/KeyGrabs.h"
 
 namespace orlamo::x11 {
@@ -45,7 +47,7 @@ void EventPoster::type(const KeyboardEvent& event) {
         .isGrabbed = [this](GrabKind kind, std::uint8_t key,
                             std::uint8_t realModifiers) { return isGrabbed(connection_, kind, key, realModifiers); },
         .addsShift = windowManager_.name() == "KWin"};
-    const ServerGrab grab(connection_);
+    std::optional<ServerGrab> grab(std::in_place, connection_);
     const auto held = keyboard_.heldKeys();
     if (!held) return refuse(event, "the X server does not answer");
     const auto plan = planPosting(keyboard_.layoutNow(), *held, event.keyCode, event.flags, desktop);
@@ -53,11 +55,14 @@ void EventPoster::type(const KeyboardEvent& event) {
 
     const auto& [modifiers, key] = std::get<PostingPlan>(plan);
     if (!modifiers.empty()) keyboard_.expectOwnTyping();  // no press of the trigger key
-    // From here to the flush nothing may wait for an answer: that would send the presses without their releases.
+    const ConnectionKeeper keeper(xcb_get_file_descriptor(connection_.xcb()));
+    // In between nothing may wait for an answer: that would send the presses without their releases.
     for (const std::uint8_t modifier : modifiers) fakeKey(XCB_KEY_PRESS, modifier);
     fakeKey(XCB_KEY_PRESS, key);
     fakeKey(XCB_KEY_RELEASE, key);
     for (const std::uint8_t modifier : modifiers | std::views::reverse) fakeKey(XCB_KEY_RELEASE, modifier);
+    grab.reset();
+    connection_.reply(xcb_get_input_focus_reply, xcb_get_input_focus(connection_.xcb()));  // it has been done
 }
 
 void EventPoster::fakeKey(std::uint8_t type, std::uint8_t keycode) {

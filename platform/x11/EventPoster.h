@@ -17,8 +17,8 @@ public:
         : connection_(connection), keyboard_(keyboard), windowManager_(windowManager) {}
 
     /// A key-down is kept until the key-up of the same code. Then the modifiers that are not held yet and the key are
-    /// pressed and released in one write: the server gets all of it or nothing, so a program that is killed meanwhile
-    /// leaves no key pressed. A key-up without its key-down does nothing.
+    /// pressed and released in one write, and a process of its own keeps the connection until the server has done it:
+    /// a program that is killed meanwhile leaves no key pressed. A key-up without its key-down does nothing.
     void CGEventPost(EventTapLocation tap, const KeyboardEvent& event) override;
     /// Drops it. The X server has one pointer for all: a press without its release would leave the user with a button
     /// that every program takes for held.

@@ -25,14 +25,14 @@ class Recovery(DesktopTest):
 
     def test_a_killed_accessibility_bus_that_returns_is_read_again(self):
         self.start_program()
-        for _ in range(repetitions(2, 20)):
+        for _ in range(repetitions(1, 20)):
             self.session.stop(self.session.accessibility, signal.SIGKILL)
             self.session.start_accessibility()
             self.assert_panel_opens()
 
     def test_a_killed_session_bus_that_returns_finds_panel_icon_and_second_launch_again(self):
         self.start_program()
-        for _ in range(repetitions(2, 20)):
+        for _ in range(repetitions(1, 20)):
             self.session.stop(self.session.bus, signal.SIGKILL)
             self.session.stop(self.session.accessibility, signal.SIGKILL)
             self.program.assert_alive()
@@ -66,7 +66,7 @@ class Recovery(DesktopTest):
         program = self.start_program()
         for kind, find in ((NotifierHost, "wait_for_item"), (XEmbedTray, "wait_for_icon")):
             host = kind(self.session).start()
-            for _ in range(repetitions(3, 20)):
+            for _ in range(repetitions(2, 20)):
                 getattr(host, find)(program.pid, SOON)
                 host.restart()
             getattr(host, find)(program.pid, SOON)
