@@ -7,8 +7,7 @@
 
 namespace orlamo::hostile {
 
-/// The body of a message as it goes over the wire, for answers that are too long to be put together while somebody
-/// waits.
+/// Part of a message as it goes over the wire.
 class Wire {
 public:
     Wire& align(std::size_t boundary) {
@@ -19,23 +18,17 @@ public:
         bytes_.append(bytes);
         return *this;
     }
-    Wire& number(std::uint32_t value) {
-        align(4);
-        bytes_.append(reinterpret_cast<const char*>(&value), sizeof value);
-        return *this;
-    }
+    Wire& number(std::uint32_t value) { return align(4).raw({reinterpret_cast<const char*>(&value), sizeof value}); }
     Wire& text(std::string_view value) {
-        number(static_cast<std::uint32_t>(value.size()));
-        bytes_.append(value).push_back('\0');
-        return *this;
+        return number(static_cast<std::uint32_t>(value.size())).raw(value).raw({"", 1});
     }
     /// An object: the name of its connection, and its path.
-    Wire& object(std::string_view path) { return align(8).text("").text(path); }
-    /// An array of structures.
+    Wire& object(std::string_view path, std::string_view bus = "") { return align(8).text(bus).text(path); }
+    /// An array of what starts at multiples of `boundary`.
     template <class Fill>
-    Wire& array(Fill fill) {
+    Wire& array(std::size_t boundary, Fill fill) {
         const std::size_t at = number(0).bytes_.size() - sizeof(std::uint32_t);
-        const std::size_t begin = align(8).bytes_.size();
+        const std::size_t begin = align(boundary).bytes_.size();
         fill();
         const auto length = static_cast<std::uint32_t>(bytes_.size() - begin);
         bytes_.replace(at, sizeof length, reinterpret_cast<const char*>(&length), sizeof length);

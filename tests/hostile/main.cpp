@@ -1,6 +1,5 @@
 // Plays one behaviour in a real session, with a window in front: orlamo_hostile_peer BEHAVIOUR
 #include <sys/socket.h>
-#include <unistd.h>
 #include <xcb/xcb.h>
 
 #include <algorithm>
@@ -23,12 +22,8 @@ void openWindow(const char* title) {
     const std::array<std::uint32_t, 1> white{screen->white_pixel};
     xcb_create_window(server, XCB_COPY_FROM_PARENT, window, screen->root, 40, 40, 300, 200, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, XCB_CW_BACK_PIXEL, white.data());
-    const auto set = [&](xcb_atom_t property, std::string_view text) {
-        xcb_change_property(server, XCB_PROP_MODE_REPLACE, window, property, XCB_ATOM_STRING, 8,
-                            static_cast<std::uint32_t>(text.size()), text.data());
-    };
-    set(XCB_ATOM_WM_NAME, title);
-    set(XCB_ATOM_WM_CLASS, std::string_view("hostile\0Hostile\0", 16));
+    xcb_change_property(server, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(std::strlen(title)), title);
     constexpr std::string_view name = "_NET_WM_PID";
     const auto asked = xcb_intern_atom(server, 0, name.size(), name.data());
     if (auto* const atom = xcb_intern_atom_reply(server, asked, nullptr)) {
@@ -38,6 +33,17 @@ void openWindow(const char* title) {
     }
     xcb_map_window(server, window);
     xcb_flush(server);  // the window lives as long as the process
+}
+
+std::string accessibilityAddress() {
+    sd_bus* session = nullptr;
+    sd_bus_message* answer = nullptr;
+    const char* address = "";
+    constexpr const char* launcher = "org.a11y.Bus";
+    if (sd_bus_default_user(&session) < 0) return "";
+    sd_bus_call_method(session, launcher, "/org/a11y/bus", launcher, "GetAddress", nullptr, &answer, "");
+    if (answer != nullptr) sd_bus_message_read(answer, "s", &address);
+    return address;
 }
 
 }  // namespace
@@ -53,7 +59,8 @@ int main(int count, char** words) {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return 1;
     Presses presses;
-    Peer peer(*behaviour, presses, Peer::Services::real);
+    Peer peer(*behaviour, presses, accessibilityAddress());
+    peer.embed();
     openWindow(behaviour->name);
     peer.serve(ends[0]);
 }
