@@ -105,6 +105,7 @@ private:
                 --round->outstanding;
                 if (auto* const children = std::get_if<std::vector<ObjectRef>>(&answer)) {
                     children->resize(std::min(children->size(), round->room));
+                    children->shrink_to_fit();  // a thousand answers of a thousand children each are 60 MiB
                     round->room -= children->size();
                 }
                 round->answers[i] = std::move(answer);

@@ -27,7 +27,7 @@ constexpr double longestAnswer = 4000;  // milliseconds
 constexpr long mostGrowth = 1 << 20;    // KiB
 #else
 constexpr double longestAnswer = 1000;
-constexpr long mostGrowth = 64 << 10;
+constexpr long mostGrowth = 48 << 10;
 #endif
 
 /// What came out of one behaviour, in memory that all its processes share.
