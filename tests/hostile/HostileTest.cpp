@@ -19,6 +19,11 @@
 #include "tests/doubles/FakeLog.h"
 
 namespace orlamo::hostile {
+
+static void PrintTo(const Behaviour& behaviour, std::ostream* stream) {
+    *stream << behaviour.name;
+}
+
 namespace {
 
 // A sanitizer copies a message with each part of it that comes in, and keeps memory that was given back.
