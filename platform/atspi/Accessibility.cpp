@@ -63,7 +63,7 @@ AXError Accessibility::copyMenuBar(int processIdentifier, AXValue& value) {
 
     std::shared_ptr<MenuTree> tree;
     lastRead_ = {};
-    const AXError result = readMenus(*bus, processIdentifier, options_, deadline, slowCaches_, tree, lastRead_);
+    const AXError result = readMenus(*bus, processIdentifier, options_, deadline, slowPrograms_, tree, lastRead_);
     using std::chrono::microseconds;
     lastRead_.time = std::chrono::duration_cast<microseconds>(std::chrono::steady_clock::now() - start);
     if (result != AXError::success) return result;

@@ -38,7 +38,7 @@ private:
 
     Options options_;
     AccessibilityBus bus_;
-    SlowCaches slowCaches_;
+    SlowPrograms slowPrograms_;
     ReadStatistics lastRead_;
     bool hasSessionMenu_ = false;
 };

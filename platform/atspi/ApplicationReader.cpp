@@ -159,22 +159,22 @@ struct Way {
     KnownNodes known;
 };
 
-Way wayTo(Connection& bus, const Application& application, int processIdentifier, Deadline deadline,
-          SlowCaches& slowCaches, std::size_t& calls) {
+Way wayTo(Connection& bus, const Application& application, int processIdentifier, Deadline deadline, SlowPrograms& slow,
+          std::size_t& calls) {
     Way way;
     if (!application.ownAddress) return way;
     const ObjectRef& root = application.root;
-    if (!application.ownAddress->empty()) {
+    if (!application.ownAddress->empty() && !slow.addresses.contains(root.bus)) {
         way.own = Connection::toProgram(*application.ownAddress, processIdentifier);
     }
     if (way.own && !answersInTime(*way.own, root, deadline, calls)) way.own.reset();
-    if (slowCaches.contains(root.bus)) return way;
+    if (slow.caches.contains(root.bus)) return way;
     ++calls;
     Connection& asked = way.own ? *way.own : bus;
     if (auto cache = readCache(asked, root.bus, std::min(deadline, deadlineIn(longestCacheTime)))) {
         way.known = std::move(*cache);
     } else {
-        slowCaches.insert(root.bus);
+        slow.caches.insert(root.bus);
         way.own.reset();
     }
     return way;
@@ -200,23 +200,25 @@ void reportUnfinished(const RawTree& raw, const std::string& name, int processId
 
 }  // namespace
 
-AXError readMenus(Connection& bus, int processIdentifier, const Options& options, Deadline deadline,
-                  SlowCaches& slowCaches, std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics) {
+AXError readMenus(Connection& bus, int processIdentifier, const Options& options, Deadline deadline, SlowPrograms& slow,
+                  std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics) {
     const std::vector<ObjectRef> roots = rootsOfProcess(bus, processIdentifier, deadline, statistics.calls);
     for (const ObjectRef& root : roots) {
         if (std::chrono::steady_clock::now() >= deadline) break;
         const Application application = askApplication(bus, root, deadline, statistics.calls);
-        const auto [own, known] = wayTo(bus, application, processIdentifier, deadline, slowCaches, statistics.calls);
+        const auto [own, known] = wayTo(bus, application, processIdentifier, deadline, slow, statistics.calls);
         statistics.usedCache = !known.empty();
         BusNodeSource source(own && own->isOpen() ? *own : bus, deadline);
         const auto menuBar = findMenuBar(source, known, application.windows);
         if (!menuBar) {
             statistics.calls += source.calls();
+            if (own && std::chrono::steady_clock::now() >= deadline) slow.addresses.insert(root.bus);
             continue;
         }
         const RawTree raw = MenuReader(source, known, options.baseKeyOfShifted).read(*menuBar);
         const std::string name = nameForPeople(application, processIdentifier, options);
-        if (known.size() > 2 * raw.nodes.size()) slowCaches.insert(root.bus);
+        if (known.size() > 2 * raw.nodes.size()) slow.caches.insert(root.bus);
+        if (own && !raw.isComplete) slow.addresses.insert(root.bus);
         if (!raw.isComplete) reportUnfinished(raw, name, processIdentifier, deadline - options.readTime);
         statistics.calls += source.calls();
         statistics.elements = raw.nodes.size();

@@ -37,13 +37,17 @@ struct ReadStatistics {
     std::chrono::microseconds time{0};
 };
 
-/// Programs, by their bus name, whose cache was found to hold much besides menus: putting it together takes such a
-/// program longer than the questions that it saves.
-using SlowCaches = std::unordered_set<std::string>;
+/// Programs, by their bus name, that are better asked in another way at the next reading.
+struct SlowPrograms {
+    /// Their cache holds much besides menus: putting it together takes longer than the questions that it saves.
+    std::unordered_set<std::string> caches;
+    /// A reading at their own address did not end in time.
+    std::unordered_set<std::string> addresses;
+};
 
 /// Reads the menus of the application with this process id. On an error the tree stays as it was; a reading that its
 /// time ended is no error once there is a menu bar: what came in by then is the tree.
-AXError readMenus(Connection& bus, int processIdentifier, const Options& options, Deadline deadline,
-                  SlowCaches& slowCaches, std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics);
+AXError readMenus(Connection& bus, int processIdentifier, const Options& options, Deadline deadline, SlowPrograms& slow,
+                  std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics);
 
 }  // namespace orlamo::atspi

@@ -286,7 +286,7 @@ std::vector<Behaviour> make() {
         {"is honest at its own address", whole, done, {}, ownAddress},
         {"stalls before an answer, at its own address", whole, done, directly("", silence), ownAddress},
         {"stalls inside an answer, at its own address", whole, done, directly("", half), ownAddress},
-        {"stalls inside its children, at its own address", unsure, any, directly("GetChildren", half), ownAddress},
+        {"stalls inside its children, at its own address", whole, done, directly("GetChildren", half), ownAddress},
         {"breaks off inside an answer, at its own address", whole, done, directly("", halfThenClose), ownAddress},
         {"drips its answers byte by byte, at its own address", whole, done, directly("", drip), ownAddress},
         {"talks rubbish at its own address", whole, done, directly("", noise), ownAddress},
