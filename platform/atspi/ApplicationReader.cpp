@@ -203,6 +203,8 @@ void reportUnfinished(const RawTree& raw, const std::string& name, int processId
 AXError readMenus(Connection& bus, int processIdentifier, const Options& options, Deadline deadline, SlowPrograms& slow,
                   std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics) {
     const std::vector<ObjectRef> roots = rootsOfProcess(bus, processIdentifier, deadline, statistics.calls);
+    // First, so that services which hang take of the time for the program and add none to it.
+    const SessionMenu session = options.sessionMenu && !roots.empty() ? options.sessionMenu() : SessionMenu{};
     for (const ObjectRef& root : roots) {
         if (std::chrono::steady_clock::now() >= deadline) break;
         const Application application = askApplication(bus, root, deadline, statistics.calls);
@@ -223,7 +225,6 @@ AXError readMenus(Connection& bus, int processIdentifier, const Options& options
         statistics.calls += source.calls();
         statistics.elements = raw.nodes.size();
         statistics.elementsRead = raw.readCount();
-        const SessionMenu session = options.sessionMenu ? options.sessionMenu() : SessionMenu{};
         tree = std::make_shared<MenuTree>(shapeMenus(raw, {root, name}, session));
         return AXError::success;
     }

@@ -6,9 +6,11 @@ import subprocess
 import time
 
 import services
-from case import DesktopTest
+from case import DesktopTest, PEER
 from gi.repository import GLib
 from program import SYSTEM_LIST
+from screen import wait_until
+from session import PATIENCE, Application
 
 # Rows by the name that they have in the panel, with modifiers and key as the program counts them: ⌘ is Ctrl, ⌥ is Alt,
 # ⌃ is Super, F13 is Print.
@@ -223,6 +225,16 @@ class Faults(HotKeys):
                 self.start_in(desktop, GSETTINGS_BACKEND="dconf")
                 with stopped(self.session.bus.pid):
                     self.assertEqual(rows, self.rows())
+                    self.assertLess(self.opening[1], 1)
+
+    def test_services_that_hang_take_of_the_time_of_a_program_that_stalls_and_add_none(self):
+        hostile = Application(self.session, self.session.start([PEER, "has items without end"]))
+        wait_until(hostile.is_in_front, PATIENCE, "hostile window in front")
+        for desktop in ("XFCE", "KDE"):
+            with self.subTest(desktop):
+                self.start_in(desktop)
+                with stopped(self.session.bus.pid):
+                    self.assertEqual({}, self.rows())
                     self.assertLess(self.opening[1], 1)
 
     def test_a_service_that_answers_nonsense_or_in_part_costs_its_rows(self):
