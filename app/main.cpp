@@ -8,15 +8,12 @@
 
 #include "app/CommandLine.h"
 #include "app/ProcessPrivacy.h"
-#include "core/KeyManager.h"
-#include "platform/EventFlags.h"
+#include "app/SessionMenus.h"
 #include "platform/appcast/UpdaterController.h"
 #include "platform/atspi/Accessibility.h"
 #include "platform/atspi/AccessibilitySwitch.h"
 #include "platform/desktops/DesktopPreferences.h"
-#include "platform/desktops/GioSessionServices.h"
 #include "platform/desktops/GioSettingsSource.h"
-#include "platform/desktops/SessionMenu.h"
 #include "platform/desktops/SharedSettings.h"
 #include "platform/desktops/ToolkitAccessibility.h"
 #include "platform/plist/LibplistParser.h"
@@ -93,54 +90,6 @@ private:
 const std::string& startupId(const xdg::ActivationTicket& ticket) {
     return ticket.startupId.empty() ? ticket.activationToken : ticket.startupId;
 }
-
-atspi::Shortcut menuShortcut(const desktops::KeyCombination& key) {
-    const auto bit = [&key](std::uint64_t flag, std::int64_t number) {
-        return (static_cast<std::uint64_t>(key.mask) & flag) != 0 ? number : 0;
-    };
-    return {.modifiers = bit(EventFlags::shift, 1) + bit(EventFlags::option, 2) + bit(EventFlags::control, 4) +
-                         (8 - bit(EventFlags::command, 8)),
-            .character = std::string(KeyManager::shared().keyTextForKeyCode(key.keyCode))};
-}
-
-/// What the desktop can do about the session, read anew each time, as the first menu of every menu bar.
-class SessionMenus {
-public:
-    SessionMenus(desktops::SettingsSource& settings, x11::WindowManager& manager, const x11::FocusMemory& focus)
-        : settings_(settings), services_(requests(manager, focus)) {}
-
-    atspi::SessionMenu read() {
-        const auto desktop = desktops::desktopOfNames(desktops::desktopNamesOfEnvironment());
-        const auto menu = desktops::readSessionMenu(desktop, settings_, services_);
-        atspi::SessionMenu shown{.state = menu.state};
-        if (menu.state != SessionMenuState::present) return shown;
-        shown.title = "Apple";  // shown as a sign, in every language
-        for (const auto& command : menu.commands) {
-            shown.items.push_back({NSLocalizedString(command.title), menuShortcut(command.key), [this, command] {
-                                       return services_.perform(command.deed) ? AXError::success
-                                                                              : AXError::cannotComplete;
-                                   }});
-        }
-        return shown;
-    }
-
-private:
-    static desktops::WindowRequests requests(x11::WindowManager& manager, const x11::FocusMemory& focus) {
-        using enum desktops::WindowRequest;
-        return {.canDo =
-                    [&manager](desktops::WindowRequest request) {
-                        return request == showDesktop ? manager.canShowDesktop() : manager.canMinimize();
-                    },
-                .ask =
-                    [&manager, &focus](desktops::WindowRequest request) {
-                        return request == showDesktop ? manager.toggleShowingDesktop()
-                                                      : manager.minimizeWindowInFront(focus);
-                    }};
-    }
-
-    desktops::SettingsSource& settings_;
-    desktops::GioSessionServices services_;
-};
 
 /// Whether this launch is to go on as the program. A launch while one runs in this session is that one's business.
 bool goesOn(xdg::LaunchOutcome outcome) {
