@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "platform/appcast/PlainText.h"
 #include "tests/platform/appcast/FeedFixture.h"
 
@@ -81,60 +79,25 @@ TEST_F(FeedTest, NotesBecomePlainText) {
 }
 
 TEST_F(FeedTest, VersionsAreOrderedByTheirNumbersAndSuffixes) {
-    const std::vector<std::vector<const char*>> ascending{{"0"},
-                                                          {"0.0.1-alpha"},
-                                                          {"0.0.1-alpha.1"},
-                                                          {"0.0.1-alpha.beta"},
-                                                          {"0.0.1-beta.2"},
-                                                          {"0.0.1-beta.11"},
-                                                          {"0.0.1rc1"},
-                                                          {"0.0.1", "v0.0.1", "0.0.1.0", "00.0.01+build5"},
-                                                          {"0.2"},
-                                                          {"0.10-b"},
-                                                          {"0.10", "0.10+1"},
-                                                          {"1.0b2"},
-                                                          {"1.0B10"},
-                                                          {"1", "1.0.0"},
-                                                          {"1.9"},
-                                                          {"1.10"},
-                                                          {"18446744073709551617.1"},
-                                                          {"99999999999999999999999999999999"}};
-    for (std::size_t left = 0; left < ascending.size(); ++left) {
-        for (std::size_t right = 0; right < ascending.size(); ++right) {
-            for (const char* const first : ascending[left]) {
-                for (const char* const second : ascending[right]) {
-                    EXPECT_EQ(*Version::parse(first) <=> *Version::parse(second), std::weak_ordering(left <=> right))
-                        << first << " " << second;
+    const QString order =
+        "0 < 0.0.1-alpha < 0.0.1-alpha.1 < 0.0.1-alpha.beta < 0.0.1-beta.2 < 0.0.1-beta.11 < 0.0.1rc1 < "
+        "0.0.1 = v0.0.1 = 0.0.1.0 = 00.0.01+build5 < 0.2 < 0.10-b < 0.10 = 0.10+1 < 1.0b2 < 1.0B10 < 1 = 1.0.0 < 1.9 < "
+        "1.10 < 18446744073709551617.1 < 99999999999999999999999999999999";
+    const QStringList ascending = order.split(" < ");
+    for (int left = 0; left < ascending.size(); ++left) {
+        for (int right = 0; right < ascending.size(); ++right) {
+            for (const QString& first : ascending[left].split(" = ")) {
+                for (const QString& second : ascending[right].split(" = ")) {
+                    const auto found = *Version::parse(first.toStdString()) <=> *Version::parse(second.toStdString());
+                    EXPECT_EQ(found, std::weak_ordering(left <=> right)) << (first + " and " + second).toStdString();
                 }
             }
         }
     }
-    for (const std::string& text : {std::string(), std::string("v"), std::string("beta"), std::string("-1"),
-                                    std::string(".5"), std::string(65, '1')}) {
+    const std::string tooLong(65, '1');
+    for (const std::string_view text : {"", "v", "beta", "-1", ".5", tooLong.c_str()})
         EXPECT_FALSE(Version::parse(text)) << text;
-    }
     EXPECT_TRUE(Version::parse("1.\xff..\n\x80-%s"));
-}
-
-// A fixed seed: the same thousand feeds in every run.
-TEST_F(FeedTest, DamagedFeedsAreReadOrRefused) {
-    const QByteArray good = feed({item("1.3", "", "<link>https://example.org/</link>"), item("1.4", "beta")});
-    std::mt19937 random(1);
-    for (int round = 0; round < 1000; ++round) {
-        QByteArray damaged = good;
-        for (auto changes = random() % 8; changes-- > 0;) {
-            const auto at = static_cast<qsizetype>(random() % static_cast<unsigned>(damaged.size()));
-            if (random() % 2 == 0) {
-                damaged[at] = static_cast<char>(random());
-            } else {
-                damaged.insert(at, good.mid(static_cast<qsizetype>(random() % 400), 20));
-            }
-        }
-        const Feed found = parseFeed(damaged, "example.org");
-        for (const Item& each : found.items) {
-            EXPECT_TRUE(each.page.isEmpty() || each.page.host() == "example.org") << damaged.toStdString();
-        }
-    }
 }
 
 }  // namespace

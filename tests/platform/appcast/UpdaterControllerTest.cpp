@@ -19,7 +19,7 @@ public:
 // The string table is empty: every text shows its key.
 class UpdaterControllerTest : public FeedFixture {
 protected:
-    void useFeed(const std::string& address) { bundle.info["SUFeedURL"] = address; }
+    void useFeed(const QUrl& address) { bundle.info["SUFeedURL"] = address.toString().toStdString(); }
 
     /// The window on the screen; null without one.
     static UpdateWindow* window() {
@@ -57,6 +57,11 @@ TEST_F(UpdaterControllerTest, WithoutAFeedOnlyTheUserHearsThatUpdatesComeWithThe
         window()->close();
     }
     EXPECT_TRUE(log.lines.empty());
+
+    controller = updater.initWithStartingUpdater(Updates::StartingUpdater::no, std::make_unique<Channels>());
+    controller->checkForUpdates(Origin::user);
+    EXPECT_EQ(window(), nullptr) << "one that is not started checks nothing";
+    EXPECT_EQ(log.lines.size(), 1U);
 }
 
 TEST_F(UpdaterControllerTest, ANewVersionIsShownWithItsNotesAndAButtonThatOpensItsPage) {
@@ -64,7 +69,7 @@ TEST_F(UpdaterControllerTest, ANewVersionIsShownWithItsNotesAndAButtonThatOpensI
     const FeedServer server(Speaks::http, says(httpAnswer(feed({item("2.0", "beta", more)}))));
     bundle.info["CFBundleShortVersionString"] = std::string("1.9");
     bundle.strings["update.newVersion.title"] = "%@ is out";
-    useFeed(server.url().toString().toStdString());
+    useFeed(server.url());
     controller->checkForUpdates(Origin::launch);
     EXPECT_EQ(text("updateTitle"), "update.checking.title");
     waitForTitle("2.0 is out");
@@ -83,7 +88,7 @@ TEST_F(UpdaterControllerTest, ANewVersionIsShownWithItsNotesAndAButtonThatOpensI
 
 TEST_F(UpdaterControllerTest, OneCheckRunsAtATimeAndEscapeCancelsIt) {
     const FeedServer server(Speaks::http, [](QTcpSocket&, const QByteArray&) {});
-    useFeed(server.url().toString().toStdString());
+    useFeed(server.url());
     controller->checkForUpdates(Origin::user);
     turnEventLoopUntil([&] { return server.requests.size() == 1; });
     const UpdateWindow* const before = window();
@@ -96,11 +101,11 @@ TEST_F(UpdaterControllerTest, OneCheckRunsAtATimeAndEscapeCancelsIt) {
     EXPECT_EQ(window(), nullptr);
     turnEventLoopUntil([&] { return server.connections == 0; });
 
-    useFeed("http://example.org/feed");
+    useFeed(QUrl("http://example.org/feed"));
     controller->checkForUpdates(Origin::user);
     waitForTitle("update.failed.title");
     EXPECT_EQ(text("updateMessage"), "update.failed.address");
-    useFeed("");
+    useFeed({});
     controller->checkForUpdates(Origin::user);
     EXPECT_EQ(text("updateMessage"), "update.package.message") << "the open window shows the next result";
     controller.reset();
@@ -118,13 +123,6 @@ TEST_F(UpdaterControllerTest, EveryOutcomeHasWordsOfItsOwn) {
         EXPECT_EQ(text("updateOpenPage"), "");
     }
     EXPECT_FALSE(messages.contains(""));
-}
-
-TEST_F(UpdaterControllerTest, OneThatIsNotStartedChecksNothing) {
-    controller = updater.initWithStartingUpdater(Updates::StartingUpdater::no, std::make_unique<Channels>());
-    controller->checkForUpdates(Origin::user);
-    EXPECT_EQ(window(), nullptr);
-    EXPECT_EQ(log.lines.size(), 1U);
 }
 
 }  // namespace
