@@ -29,7 +29,8 @@ public:
     std::size_t answersLeft = 1'000'000'000;
     std::map<atspi::Question, int> asked;
     /// When set, answers for children in place of `objects`.
-    std::function<std::vector<atspi::ObjectRef>(const atspi::ObjectRef&)> lie;
+    using Lie = std::function<std::vector<atspi::ObjectRef>(const atspi::ObjectRef&)>;
+    Lie lie;
 
     void ask(const atspi::ObjectRef& object, atspi::Question question, Receive receive) override {
         ++asked[question];

@@ -2,24 +2,49 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
+#include "platform/atspi/Element.h"
 #include "platform/atspi/MenuBarFinder.h"
 #include "platform/atspi/MenuTree.h"
+#include "platform/atspi/Utf8.h"
 #include "tests/doubles/FakeNodeSource.h"
+
+using namespace std::literals;
 
 namespace orlamo::atspi {
 namespace {
 
 using Object = FakeNodeSource::Object;
-constexpr std::uint64_t usable = states::enabled | states::sensitive;
+constexpr std::uint64_t usable = states::enabled | states::sensitive, closed = usable | states::visible;
+constexpr auto ref = FakeNodeSource::ref;
+
+/// An object with all that it holds; the object's own list of children is not used.
+struct Tree {
+    Object object;
+    std::vector<Tree> children = {};
+};
+
+Tree item(std::string name, std::string key, std::uint64_t states = usable) {
+    return {{{}, std::move(name), ObjectRole::menuItem, states, std::move(key)}};
+}
+
+Tree holding(std::string name, std::vector<Tree> children, ObjectRole role = ObjectRole::menuItem) {
+    return {{{}, std::move(name), role}, std::move(children)};
+}
 
 class MenuReading : public testing::Test {
 protected:
-    RawTree read(ReadLimits limits = {}) {
-        return MenuReader(source, known, baseKeyOfShifted, limits).read(FakeNodeSource::ref("bar"));
+    /// Each object's path is that of what holds it with its number there: "bar/0/2".
+    void set(const std::string& path, const Tree& tree) {
+        Object object = tree.object;
+        for (const Tree& child : tree.children) {
+            object.children.push_back(path + "/" + std::to_string(object.children.size()));
+            set(object.children.back(), child);
+        }
+        source.objects[path] = object;
     }
-    MenuTree shape() { return shapeMenus(read(), {FakeNodeSource::ref("root"), "Editor"}, session); }
+    void setBar(std::vector<Tree> titles) { set("bar", holding("", std::move(titles), ObjectRole::menuBar)); }
+    RawTree read() { return MenuReader(source, known, baseKeyOfShifted).read(ref("bar")); }
+    MenuTree shape() { return shapeMenus(read(), {ref("root"), "Editor"}, session); }
 
     /// "File[:New(0N)]": a title or "?" per element, its children in brackets.
     static std::string text(const MenuTree& tree, std::uint32_t index = 0) {
@@ -39,75 +64,51 @@ protected:
     SessionMenu session;
 };
 
-TEST_F(MenuReading, QtsPopupsAreFoldedAwayAndEachMenuBarItemHasOneMenu) {
-    source.objects = {{"bar", Object{{"file"}, "", ObjectRole::menuBar}},
-                      {"file", Object{{"popup"}, "File"}},
-                      {"popup", Object{{"new", "line", "recent"}, "", ObjectRole::popupMenu}},
-                      {"new", Object{{}, "New", ObjectRole::menuItem, usable, "Ctrl+N"}},
-                      {"line", Object{{}, "", ObjectRole::separator}},
-                      {"recent", Object{{"popup2"}, "Recent", ObjectRole::menuItem, usable, "Alt+R"}},
-                      {"popup2", Object{{"clear"}, "", ObjectRole::popupMenu}},
-                      {"clear", Object{{}, "Clear", ObjectRole::menuItem, 0, "Ctrl+K"}}};
-    EXPECT_EQ(text(shape()), "?[? Editor File[:[New(0N) Recent[Clear(0K)-]]]]");
+TEST_F(MenuReading, GivesTheMenusThatPeopleSeeWhateverTheToolkitSays) {
+    const Tree qtsRecent = holding("", {item("Clear", "Ctrl+K", 0)}, ObjectRole::popupMenu);
+    const Tree qts =
+        holding("", {item("New", "Ctrl+N"), holding("", {}, ObjectRole::separator), holding("Recent", {qtsRecent})},
+                ObjectRole::popupMenu);
+    const struct {
+        const char* why;
+        Tree title;
+        const char* text;
+    } cases[] = {
+        {"the popups of Qt are folded away", holding("File", {qts}), "File[:[New(0N) Recent[Clear(0K)-]]]"},
+        {"the padding and the hidden items of GTK are left out",
+         holding("File",
+                 {item("New      ", "n;<Alt>f:n;<Primary>n", closed), item("Ghost", ";;<Primary>g"),
+                  item("  ", ";;F8", closed), holding("Only", {item("One", ";;<Primary>1", closed)}, ObjectRole::menu)},
+                 ObjectRole::menu),
+         "File[:[New(0N) Only[One(01)]]]"},
+        {"a mnemonic of Qt is no shortcut, but an Alt key that the name lacks is",
+         holding("Go", {item("Mark", "Alt+M"), item("Find", "Alt+I"), item("Lookup", "Alt+u")}),
+         "Go[:[Mark Find(10I) ?]]"},
+        {"without a title", holding("", {item("New", "Ctrl+N"), item("Open", "Ctrl+O")}), "?[:[New(0N) Open(0O)]]"},
+    };
+    for (const auto& [why, title, expected] : cases) {
+        setBar({title});
+        EXPECT_EQ(text(shape()), "?[? Editor " + std::string(expected) + "]") << why;
+    }
 }
 
-TEST_F(MenuReading, GtksPaddingAndHiddenItemsAreLeftOut) {
-    const std::uint64_t closed = usable | states::visible;
-    source.objects = {{"bar", Object{{"file"}, "", ObjectRole::menuBar}},
-                      {"file", Object{{"new", "hidden", "nameless", "sub"}, "File", ObjectRole::menu}},
-                      {"new", Object{{}, "New      ", ObjectRole::menuItem, closed, "n;<Alt>f:n;<Primary>n"}},
-                      {"hidden", Object{{}, "Ghost", ObjectRole::menuItem, usable, ";;<Primary>g"}},
-                      {"nameless", Object{{}, "  ", ObjectRole::menuItem, closed, ";;F8"}},
-                      {"sub", Object{{"one"}, "Only", ObjectRole::menu, closed}},
-                      {"one", Object{{}, "One", ObjectRole::menuItem, closed, ";;<Primary>1"}}};
-    EXPECT_EQ(text(shape()), "?[? Editor File[:[New(0N) Only[One(01)]]]]");
-}
-
-TEST_F(MenuReading, AMnemonicOfQtIsNoShortcutButAnAltKeyThatTheNameLacksIs) {
-    source.objects = {{"bar", Object{{"go"}, "", ObjectRole::menuBar}},
-                      {"go", Object{{"a", "b", "c"}, "Go"}},
-                      {"a", Object{{}, "Mark", ObjectRole::menuItem, usable, "Alt+M"}},
-                      {"b", Object{{}, "Find", ObjectRole::menuItem, usable, "Alt+I"}},
-                      {"c", Object{{}, "Lookup", ObjectRole::menuItem, usable, "Alt+u"}}};
-    EXPECT_EQ(text(shape()), "?[? Editor Go[:[Mark Find(10I) ?]]]");
-}
-
-TEST_F(MenuReading, AMenuBarItemWithoutATitleIsReported) {
-    source.objects = {{"bar", Object{{"x"}, "", ObjectRole::menuBar}},
-                      {"x", Object{{"new", "open"}, ""}},
-                      {"new", Object{{}, "New", ObjectRole::menuItem, usable, "Ctrl+N"}},
-                      {"open", Object{{}, "Open", ObjectRole::menuItem, usable, "Ctrl+O"}}};
-    EXPECT_EQ(text(shape()), "?[? Editor ?[:[New(0N) Open(0O)]]]");
-}
-
-TEST_F(MenuReading, ASessionMenuTakesTheFirstPlace) {
-    source.objects = {{"bar", Object{{}, "", ObjectRole::menuBar}}};
-    session = {SessionMenuState::present, "Session", {{"Lock", Shortcut{4, "L", 0}, [] { return AXError::noValue; }}}};
+TEST_F(MenuReading, ASessionMenuTakesTheFirstPlaceAndItsItemsNeverHaveTheTitleOfAnother) {
+    setBar({holding("File", {item("Lock", "Ctrl+K")})});
+    session = {SessionMenuState::present,
+               "Session",
+               {{"Lock", Shortcut{4, "L", 0}, [] { return AXError::noValue; }}, {"Log Out", Shortcut{4, "Q", 0}}}};
     const MenuTree tree = shape();
-    EXPECT_EQ(text(tree), "?[Session[:[Lock(4L)]] Editor]");
+    EXPECT_EQ(text(tree), "?[Session[:[Lock\u2060(4L) Log Out(4Q)]] Editor File[:[Lock(0K)]]]");
     EXPECT_EQ(tree.nodes[3].press(), AXError::noValue);
-}
-
-TEST_F(MenuReading, ASessionItemNeverHasTheTitleOfAnItemOfTheApplication) {
-    source.objects = {{"bar", Object{{"file"}, "", ObjectRole::menuBar}},
-                      {"file", Object{{"lock"}, "File"}},
-                      {"lock", Object{{}, "Lock", ObjectRole::menuItem, usable, "Ctrl+K"}}};
-    session = {SessionMenuState::present, "Session", {{"Lock", Shortcut{4, "L", 0}}, {"Log Out", Shortcut{4, "Q", 0}}}};
-    EXPECT_EQ(text(shape()), "?[Session[:[Lock\u2060(4L) Log Out(4Q)]] Editor File[:[Lock(0K)]]]");
 }
 
 TEST_F(MenuReading, ForASessionItemWhoseKeyHasNoCodeAnEmptyRowWithAKeyStandsBehindAll) {
     session = {SessionMenuState::present, "Session", {{"Out", Shortcut{2, "DELETE", 0}}, {"In", Shortcut{4, "⎋", 0}}}};
-    source.objects = {{"bar", Object{{"a", "b"}, "", ObjectRole::menuBar}},
-                      {"a", Object{{"new", "sub"}, "A"}},
-                      {"new", Object{{}, "New", ObjectRole::menuItem, usable, "Ctrl+N"}},
-                      {"sub", Object{{"one"}, "Sub"}},
-                      {"one", Object{{}, "One", ObjectRole::menuItem, usable, "Ctrl+1"}},
-                      {"b", Object{{"old"}, "B"}},
-                      {"old", Object{{}, "Old", ObjectRole::menuItem, usable, "F2"}}};
+    setBar({holding("A", {item("New", "Ctrl+N"), holding("Sub", {item("One", "Ctrl+1")})}),
+            holding("B", {item("Old", "F2")})});
     const std::string front = "?[Session[:[Out(2DELETE) In(4⎋)]] Editor ";
     EXPECT_EQ(text(shape()), front + "A[:[New(0N) Sub[One(01)] space(0A)]] B[:[Old(8)]]]");
-    source.objects["a"].children = {};
+    source.objects["bar/0"].children = {};
     EXPECT_EQ(text(shape()), front + "A[:] B[:[Old(8)]] space(0A)]");
     session.items[1].shortcut->character = "F12";
     const MenuTree two = shape();
@@ -116,7 +117,6 @@ TEST_F(MenuReading, ForASessionItemWhoseKeyHasNoCodeAnEmptyRowWithAKeyStandsBehi
 }
 
 TEST_F(MenuReading, NothingIsAskedThatTheCacheKnows) {
-    const auto ref = FakeNodeSource::ref;
     source.objects = {{"new", Object{{}, "", ObjectRole::menuItem, 0, ";;<Primary>n"}}};
     known[ref("bar")] = {{{ref("file")}}, "", ObjectRole::menuBar, usable};
     known[ref("file")] = {{{ref("new"), ref("tear")}}, "File", ObjectRole::menu, usable};
@@ -127,24 +127,19 @@ TEST_F(MenuReading, NothingIsAskedThatTheCacheKnows) {
 }
 
 TEST_F(MenuReading, TheDeadlineLeavesWhatIsThere) {
-    source.objects = {{"bar", Object{{"a", "b"}, "", ObjectRole::menuBar}},
-                      {"a", Object{{"new", "old"}, "A"}},
-                      {"b", Object{{"new"}, "B"}},
-                      {"new", Object{{}, "New", ObjectRole::menuItem, usable, "Ctrl+N"}}};
+    setBar({holding("A", {item("New", "Ctrl+N"), item("Old", "")}), holding("B", {item("New", "Ctrl+N")})});
     source.answersLeft = 5;
     const RawTree raw = read();
     EXPECT_FALSE(raw.isComplete);
     EXPECT_LT(raw.readCount(), raw.nodes.size());
-    EXPECT_EQ(text(shapeMenus(raw, {FakeNodeSource::ref("root"), "Editor"}, {})), "?[? Editor A[:[? ?]] B[:]]");
+    EXPECT_EQ(text(shapeMenus(raw, {ref("root"), "Editor"}, {})), "?[? Editor A[:[? ?]] B[:[?]]]");
 }
 
 TEST_F(MenuReading, AtNoMomentDoesTheDeadlineMakeAMnemonicAShortcutOrAnItemNameless) {
-    source.objects = {{"bar", Object{{"go"}, "", ObjectRole::menuBar}},
-                      {"go", Object{{"a", "b", "sub"}, "Go"}},
-                      {"a", Object{{}, "Mark", ObjectRole::menuItem, usable, "Alt+M"}},
-                      {"b", Object{{}, "Find", ObjectRole::menuItem, usable, "Ctrl+F"}},
-                      {"sub", Object{{"c", "d"}, "Code", ObjectRole::menuItem, usable, "Ctrl+K"}},
-                      {"c", Object{{}, "C", ObjectRole::menuItem, usable, "Ctrl+C"}}};
+    Tree code = holding("Code", {item("C", "Ctrl+C"), item("", "")});
+    code.object.keyBinding = "Ctrl+K";
+    setBar({holding("Go", {item("Mark", "Alt+M"), item("Find", "Ctrl+F"), code})});
+    source.objects.erase("bar/0/2/1");
     const FakeNodeSource whole = source;
     for (std::size_t answers = 1; answers < 30; ++answers) {
         source = whole;
@@ -163,28 +158,25 @@ TEST_F(MenuReading, ATreeThatHoldsItselfIsReadOnce) {
     EXPECT_EQ(text(shape()), "?[? Editor A[:[B(0B)]]]");
 }
 
-TEST_F(MenuReading, ATreeOfEndlessDepthEndsAtTheLimit) {
-    source.lie = [](const ObjectRef& object) { return std::vector{FakeNodeSource::ref(object.path + "x")}; };
-    const RawTree raw = read();
-    EXPECT_EQ(raw.nodes.size(), ReadLimits{}.depth + 1);
-    EXPECT_FALSE(raw.isComplete);
-}
-
-TEST_F(MenuReading, AMillionChildrenEndAtTheLimit) {
+TEST_F(MenuReading, ATreeWithoutEndEndsAtTheLimits) {
     std::vector<ObjectRef> million;
-    for (int i = 0; i < 1'000'000; ++i) million.push_back(FakeNodeSource::ref(std::to_string(i)));
-    source.lie = [&](const ObjectRef& object) { return object.path == "bar" ? million : std::vector<ObjectRef>{}; };
-    const RawTree raw = read();
-    EXPECT_EQ(raw.nodes.size(), ReadLimits{}.elements);
-    EXPECT_FALSE(raw.isComplete);
+    for (int i = 0; i < 1'000'000; ++i) million.push_back(ref(std::to_string(i)));
+    const auto deep = [](const ObjectRef& object) { return std::vector{ref(object.path + "x")}; };
+    const auto broad = [&](const ObjectRef& object) {
+        return object.path == "bar" ? million : std::vector<ObjectRef>{};
+    };
+    for (const std::size_t elements : {std::size_t{ReadLimits{}.depth + 1}, ReadLimits{}.elements}) {
+        source.lie = elements == ReadLimits{}.elements ? FakeNodeSource::Lie(broad) : deep;
+        const RawTree raw = read();
+        EXPECT_EQ(raw.nodes.size(), elements);
+        EXPECT_FALSE(raw.isComplete);
+    }
 }
 
 TEST_F(MenuReading, LongTextsAreCutOrDropped) {
     const std::string megabyte(1'000'000, 'x');
-    source.objects = {{"bar", Object{{"a"}, "", ObjectRole::menuBar}},
-                      {"a", Object{{"b", "c", megabyte}, megabyte}},
-                      {"b", Object{{}, megabyte, ObjectRole::menuItem, usable, "Ctrl+B"}},
-                      {"c", Object{{}, "C", ObjectRole::menuItem, usable, megabyte}}};
+    setBar({holding(megabyte, {item(megabyte, "Ctrl+B"), item("C", megabyte)})});
+    source.objects["bar/0"].children.push_back(megabyte);
     const RawTree raw = read();
     EXPECT_EQ(raw.nodes.size(), 4U);
     EXPECT_EQ(raw.nodes[1].name->size(), 1024U);
@@ -193,40 +185,75 @@ TEST_F(MenuReading, LongTextsAreCutOrDropped) {
 }
 
 TEST_F(MenuReading, TheMenuBarOfTheFirstWindowThatHasOneIsFoundWithoutEnteringDocuments) {
-    source.objects = {{"dialog", Object{{"button"}, "", ObjectRole::dialog}},
-                      {"window", Object{{"table", "filler"}, "", ObjectRole::frame}},
-                      {"table", Object{{"bar2"}, "", static_cast<ObjectRole>(55)}},
-                      {"bar2", Object{{}, "", ObjectRole::menuBar}},
-                      {"filler", Object{{"bar"}, "", ObjectRole::filler}},
-                      {"bar", Object{{}, "", ObjectRole::menuBar}}};
-    const auto ref = FakeNodeSource::ref;
-    EXPECT_EQ(findMenuBar(source, known, {ref("dialog"), ref("window")}), ref("bar"));
+    const Tree bar = holding("", {}, ObjectRole::menuBar);
+    set("dialog", holding("", {holding("", {})}, ObjectRole::dialog));
+    set("window", holding("", {holding("", {bar}, static_cast<ObjectRole>(55)), holding("", {bar}, ObjectRole::filler)},
+                          ObjectRole::frame));
+    EXPECT_EQ(findMenuBar(source, known, {ref("dialog"), ref("window")}), ref("window/1/0"));
     EXPECT_EQ(findMenuBar(source, known, {ref("dialog")}), std::nullopt);
     source.answersLeft = 2;
     EXPECT_EQ(findMenuBar(source, known, {ref("window")}), std::nullopt);
 }
 
 TEST_F(MenuReading, OfTwoMenuBarsTheFirstInDocumentOrderCounts) {
-    const auto pane = static_cast<ObjectRole>(49);
-    source.objects = {{"window", Object{{"top", "root"}, "", ObjectRole::frame}},
-                      {"top", Object{{"scroll"}, "", ObjectRole::panel}},
-                      {"scroll", Object{{"bar"}, "", pane}},
-                      {"bar", Object{{}, "", ObjectRole::menuBar}},
-                      {"root", Object{{"behind", "more"}, "", ObjectRole::rootPane}},
-                      {"behind", Object{{}, "", ObjectRole::menuBar}},
-                      {"more", Object{{"panel"}, "", ObjectRole::panel}},
-                      {"panel", Object{{}, "", ObjectRole::panel}}};
-    const auto ref = FakeNodeSource::ref;
-    EXPECT_EQ(findMenuBar(source, known, {ref("window")}), ref("bar"));
+    const Tree bar = holding("", {}, ObjectRole::menuBar), panel = holding("", {}, ObjectRole::panel);
+    const Tree scroll = holding("", {bar}, static_cast<ObjectRole>(49));
+    set("window", holding("",
+                          {holding("", {scroll}, ObjectRole::panel),
+                           holding("", {bar, holding("", {panel}, ObjectRole::panel)}, ObjectRole::rootPane)},
+                          ObjectRole::frame));
+    EXPECT_EQ(findMenuBar(source, known, {ref("window")}), ref("window/0/0/0"));
     // The window, what it holds, and the scroll pane: nothing behind the first menu bar.
     EXPECT_EQ(source.asked[Question::children], 4);
 
     source.asked.clear();
-    for (const char* const path : {"top", "scroll", "bar", "root", "behind", "more"}) {
-        known[ref(path)].role = source.objects[path].role;
-    }
-    EXPECT_EQ(findMenuBar(source, known, {ref("window")}), ref("bar"));
+    for (const auto& [path, object] : source.objects) known[ref(path)].role = object.role;
+    EXPECT_EQ(findMenuBar(source, known, {ref("window")}), ref("window/0/0/0"));
     EXPECT_EQ(source.asked[Question::role], 0);
+}
+
+TEST_F(MenuReading, ElementsAreTheSameInEachReadingAndDifferFromEachOther) {
+    setBar({holding("File", {item("New", "Ctrl+N")})});
+    const auto first = std::make_shared<MenuTree>(shape()), second = std::make_shared<MenuTree>(shape());
+    source.objects["bar/0"].children = {"other"};
+    const auto otherItem = std::make_shared<MenuTree>(shape()), laterBus = std::make_shared<MenuTree>(*first);
+    ++laterBus->busEpoch;
+    // The bar, the session, the application's name, the item in the bar, its menu, the item in that.
+    ASSERT_EQ(first->nodes.size(), 6U);
+    for (std::uint32_t i = 0; i < 6; ++i) {
+        const MenuElement one(first, i);
+        for (std::uint32_t j = 0; j < 6; ++j)
+            EXPECT_EQ(one.isSameElement(MenuElement(second, j)), i == j) << i << " " << j;
+        EXPECT_EQ(one.hash(), MenuElement(second, i).hash()) << i;
+        EXPECT_EQ(one.isSameElement(MenuElement(otherItem, i)), i != 5) << i;
+        EXPECT_FALSE(one.isSameElement(MenuElement(laterBus, i))) << i;
+    }
+    const ApplicationElement application(7);
+    EXPECT_TRUE(application.isSameElement(ApplicationElement(7)));
+    EXPECT_FALSE(application.isSameElement(ApplicationElement(8)));
+    EXPECT_FALSE(application.isSameElement(MenuElement(first, 0)));
+    EXPECT_FALSE(MenuElement(first, 0).isSameElement(application));
+}
+
+TEST(CleanName, KeepsWhatCanBeShown) {
+    const std::pair<std::string_view, std::string_view> rows[] = {
+        {"New      ", "New"},
+        {"\u00A0 Öffnen …\u3000", "Öffnen …"},
+        {"a\nb\tc\x7F", "abc"},
+        {"a\0b"sv, "ab"},
+        {"\u202Egpj.exe\u2066", "gpj.exe"},
+        {"a\xFF\xC3(\xED\xA0\x80\xC0\xAF z", "a( z"},
+        {"日本語 😀", "日本語 😀"},
+        {" \t ", ""},
+        {"a\u2060b\U000E0041\uFFF9c", "abc"},
+        {"Ệ E\u0302\u0323 Z\u0300\u0301\u0302\u0303\u0304\u20DDy", "Ệ E\u0302\u0323 Z\u0300\u0301\u0302y"},
+    };
+    for (const auto& [name, clean] : rows) EXPECT_EQ(cleanName(name), clean);
+}
+
+TEST(CleanName, IsCutBetweenTwoCharacters) {
+    EXPECT_EQ(cleanName("aéé", 4), "aé");
+    EXPECT_EQ(cleanName("ab  cd", 4), "ab");
 }
 
 }  // namespace
