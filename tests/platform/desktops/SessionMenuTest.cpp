@@ -57,32 +57,26 @@ TEST_F(SessionMenuTest, OfGnomeLocksLogsOutAndTakesTheFirstTwoOthersThatAreBound
     EXPECT_EQ(source.refreshes, 3);
 }
 
-TEST_F(SessionMenuTest, OfMateIsThereWhenTheUserHasBoundLogOut) {
-    const std::string keys = "org.mate.SettingsDaemon.plugins.media-keys ";
-    source.settings = {{keys + "screensaver", {"<Control><Alt>l"}},
-                       {keys + "logout", {""}},
-                       {keys + "power", {"<Control><Alt>Delete"}},
-                       {"org.mate.Marco.global-keybindings show-desktop", {"<Control><Alt>d"}},
-                       {keys + "home", {"<Super>e"}}};
-    EXPECT_EQ(state(Desktop::mate), notBound);
-    source.settings[keys + "logout"] = {"<Super>q"};
-    EXPECT_THAT(
-        commands(Desktop::mate),
-        ElementsAre("lock 1572864+37 org.mate.ScreenSaver Lock", "log_out 262144+12 org.gnome.SessionManager Logout",
-                    "show_desktop 1572864+2 show desktop", "home 262144+14 org.freedesktop.FileManager1 ShowFolders"));
-}
-
-TEST_F(SessionMenuTest, OfCinnamonIsThereWithItsShippedKeys) {
-    const std::string keys = "org.cinnamon.desktop.keybindings.media-keys ";
-    source.settings = {{keys + "screensaver", {"<Control><Alt>l", "XF86ScreenSaver"}},
-                       {keys + "logout", {"<Control><Alt>Delete"}},
-                       {keys + "shutdown", {"<Control><Alt>End", "XF86PowerOff"}},
-                       {"org.cinnamon.desktop.keybindings.wm show-desktop", {"<Super>d"}},
-                       {keys + "home", {"<Super>e", "XF86Explorer"}}};
-    EXPECT_THAT(commands(Desktop::cinnamon),
-                ElementsAre("lock 1572864+37 org.cinnamon.ScreenSaver Lock",
-                            "log_out 1572864+117 org.gnome.SessionManager Logout", "show_desktop 262144+2 show desktop",
-                            "home 262144+14 org.freedesktop.FileManager1 ShowFolders"));
+TEST_F(SessionMenuTest, OfMateAndCinnamonIsThereWhenLogOutIsBound) {
+    const struct {
+        Desktop desktop;
+        std::string keys, showDesktop, lock;
+    } cases[] = {{Desktop::mate, "org.mate.SettingsDaemon.plugins.media-keys ",
+                  "org.mate.Marco.global-keybindings show-desktop", "lock 1572864+37 org.mate.ScreenSaver Lock"},
+                 {Desktop::cinnamon, "org.cinnamon.desktop.keybindings.media-keys ",
+                  "org.cinnamon.desktop.keybindings.wm show-desktop", "lock 1572864+37 org.cinnamon.ScreenSaver Lock"}};
+    for (const auto& [desktop, keys, showDesktop, lock] : cases) {
+        source.settings = {{keys + "screensaver", {"<Control><Alt>l", "XF86ScreenSaver"}},
+                           {keys + "logout", {""}},
+                           {keys + "power", {"<Control><Alt>Delete"}},
+                           {showDesktop, {"<Super>d"}},
+                           {keys + "home", {"<Super>e", "XF86Explorer"}}};
+        EXPECT_EQ(state(desktop), notBound);
+        source.settings[keys + "logout"] = {"<Super>q"};
+        EXPECT_THAT(commands(desktop), ElementsAre(lock, "log_out 262144+12 org.gnome.SessionManager Logout",
+                                                   "show_desktop 262144+2 show desktop",
+                                                   "home 262144+14 org.freedesktop.FileManager1 ShowFolders"));
+    }
 }
 
 TEST_F(SessionMenuTest, OfXfceRunsWhatTheUserBoundWhereNoServiceDoesIt) {
