@@ -1,14 +1,10 @@
-#include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <limits>
 
 #include "platform/qt/JsonUserDefaults.h"
-#include "tests/doubles/FakeLog.h"
+#include "platform/qt/QtRunLoop.h"
+#include "tests/platform/qt/QtFixture.h"
 
 namespace orlamo {
 namespace {
@@ -61,7 +57,7 @@ TEST(SettingsJson, OnlyAWholeObjectIsRead) {
     EXPECT_FALSE(qt::SettingsJson().setValue("nan", std::numeric_limits<double>::quiet_NaN()));
 }
 
-class Settings : public ::testing::Test {
+class Settings : public QtFixture {
 protected:
     Settings() {
         char name[] = "/tmp/orlamo-settings-XXXXXX";
@@ -74,22 +70,18 @@ protected:
         fs::create_directories(path.parent_path());
         std::ofstream(path) << text;
     }
+    /// Makes the file a link, to the place that is returned.
+    fs::path link() {
+        fs::create_directories(folder / "elsewhere");
+        fs::create_directories(file.parent_path());
+        fs::create_symlink("../elsewhere/real.json", file);
+        return folder / "elsewhere" / "real.json";
+    }
     static std::string read(const fs::path& path) {
         std::ifstream stream(path);
         return {std::istreambuf_iterator<char>(stream), {}};
     }
-    static unsigned mode(const fs::path& path) {
-        struct stat status {};
-        return stat(path.c_str(), &status) == 0 ? status.st_mode & 0777U : 0;
-    }
-    bool onlyHolds(std::vector<std::string> names) {
-        std::vector<std::string> found;
-        for (const auto& entry : fs::directory_iterator(file.parent_path())) found.push_back(entry.path().filename());
-        std::sort(found.begin(), found.end());
-        return found == names;
-    }
 
-    FakeLog log;
     fs::path folder;
     fs::path file;
 };
@@ -99,24 +91,13 @@ TEST_F(Settings, AreForTheirOwnerOnlyAndLeaveNothingElseBehind) {
     EXPECT_EQ(defaults.objectForKey("absent"), Value{});
     defaults.setObject("isBlurStyle", true);
     EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(mode(file), 0600U);
-    EXPECT_EQ(mode(file.parent_path()), 0700U);
-    EXPECT_TRUE(onlyHolds({"settings.json", "settings.json.lock"}));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms(0700));
+    EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 2) << "it and its lock";
     EXPECT_TRUE(qt::JsonUserDefaults(file).boolForKey("isBlurStyle"));
     defaults.removeObject("isBlurStyle");
     EXPECT_EQ(qt::JsonUserDefaults(file).objectForKey("isBlurStyle"), Value{});
     EXPECT_TRUE(log.lines.empty());
-}
-
-TEST_F(Settings, TwoWritersLoseNothingOfEachOther) {
-    qt::JsonUserDefaults one(file);
-    qt::JsonUserDefaults other(file);
-    for (std::int64_t i = 0; i < 20; ++i) {
-        one.setObject("one" + std::to_string(i), i);
-        other.setObject("other" + std::to_string(i), i);
-        EXPECT_EQ(one.integerForKey("other" + std::to_string(i)), i);
-    }
-    for (std::int64_t i = 0; i < 20; ++i) EXPECT_EQ(other.integerForKey("one" + std::to_string(i)), i);
 }
 
 TEST_F(Settings, AChangeInPlaceIsSeenEvenWithinTheSameClockTick) {
@@ -147,10 +128,7 @@ TEST_F(Settings, ADamagedFileReadsAsEmptyAndIsKeptAsideBeforeTheNextWrite) {
 }
 
 TEST_F(Settings, ASymbolicLinkStaysOneAlsoWhenItLeadsNowhereYet) {
-    const fs::path target = folder / "elsewhere" / "real.json";
-    fs::create_directories(target.parent_path());
-    fs::create_directories(file.parent_path());
-    fs::create_symlink("../elsewhere/real.json", file);
+    const fs::path target = link();
     for (std::int64_t i = 1; i <= 2; ++i) {
         qt::JsonUserDefaults(file).setObject("n", i);
         EXPECT_TRUE(fs::is_symlink(file));
@@ -167,6 +145,9 @@ TEST_F(Settings, WhatCannotBeWrittenIsKeptAndNotReportedAsSavedUntilItCan) {
     EXPECT_FALSE(defaults.synchronize());
     EXPECT_EQ(defaults.integerForKey("n"), 7);
     fs::remove(folder / "config");
+    fs::create_directories(file);
+    EXPECT_FALSE(defaults.synchronize());
+    fs::remove(file);
     EXPECT_TRUE(defaults.synchronize());
     EXPECT_EQ(qt::JsonUserDefaults(file).integerForKey("n"), 7);
 }
@@ -182,40 +163,47 @@ TEST_F(Settings, WhatWouldBeTooLargeToBeReadAgainIsNotWritten) {
     EXPECT_EQ(read(file), numbers);
 }
 
-TEST_F(Settings, AFolderInTheFilesPlaceIsNotReplaced) {
-    fs::create_directories(file);
+class ObservedSettings : public Settings {
+protected:
+    /// How often the observer was called meanwhile; long enough for every pending change to be heard.
+    int calls(const std::function<void()>& change) {
+        heard = 0;
+        change();
+        bool isOver = false;
+        loop.asyncAfter(0.2, [&] { isOver = true; });
+        turnEventLoopUntil([&] { return isOver; });
+        return heard;
+    }
+
+    qt::QtRunLoop loop;
+    Service<RunLoop>::Installation installation{loop};
+    int heard = 0;
+};
+
+TEST_F(ObservedSettings, EveryWriteAndEveryChangeFromOutsideArriveOnce) {
     qt::JsonUserDefaults defaults(file);
-    EXPECT_EQ(defaults.objectForKey("n"), Value{});
-    defaults.setObject("n", std::int64_t{7});
-    EXPECT_FALSE(defaults.synchronize());
-    EXPECT_TRUE(fs::is_directory(file));
+    qt::JsonUserDefaults outside(file);
+    const auto observation = defaults.addObserver("watched", [this] { ++heard; });
+    EXPECT_EQ(calls([&] { defaults.setObject("watched", true); }), 1) << "the folder is created by this write";
+    EXPECT_EQ(calls([&] { defaults.setObject("watched", true); }), 1) << "also the value it had";
+    EXPECT_EQ(calls([&] { defaults.setObject("other", true); }), 0);
+    EXPECT_EQ(calls([&] { outside.setObject("watched", false); }), 1);
+    EXPECT_FALSE(defaults.boolForKey("watched"));
+    EXPECT_EQ(calls([&] { outside.setObject("other", false); }), 0);
+    EXPECT_EQ(calls([&] { std::ofstream(file) << R"({"watched": true})"; }), 1) << "written in place";
+    EXPECT_EQ(calls([&] { fs::remove_all(folder); }), 1) << "absent is a change";
+    EXPECT_EQ(calls([&] { defaults.setObject("watched", true); }), 1);
+    EXPECT_EQ(calls([&] { outside.setObject("watched", false); }), 1) << "the new folder is watched";
 }
 
-// The limit on a file's size fails writes as a full disk does, half way through.
-TEST_F(Settings, AWriteThatFailsHalfWayLeavesTheOldContentAndNoLitter) {
+TEST_F(ObservedSettings, ALinkedFileIsFollowedAndAnEndedObservationIsSilent) {
+    const fs::path target = link();
+    std::ofstream(target) << "{}";
     qt::JsonUserDefaults defaults(file);
-    defaults.setObject("n", std::int64_t{1});
-    const std::string before = read(file);
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, old.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    defaults.setObject("text", std::string(5000, 'x'));
-    const bool saved = defaults.synchronize();
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, handler);
-    EXPECT_FALSE(saved);
-    EXPECT_EQ(read(file), before);
-    EXPECT_TRUE(onlyHolds({"settings.json", "settings.json.lock"}));
-    EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(qt::JsonUserDefaults(file).stringForKey("text"), std::string(5000, 'x'));
-}
-
-TEST_F(Settings, ALeftoverOfAKilledWriterIsInNobodysWay) {
-    write(file.string() + ".new", "half");
-    qt::JsonUserDefaults(file).setObject("n", std::int64_t{1});
-    EXPECT_TRUE(onlyHolds({"settings.json", "settings.json.lock"}));
+    auto observation = defaults.addObserver("watched", [this] { ++heard; });
+    EXPECT_EQ(calls([&] { std::ofstream(target) << R"({"watched": 1})"; }), 1);
+    observation.reset();
+    EXPECT_EQ(calls([&] { std::ofstream(target) << R"({"watched": 2})"; }), 0);
 }
 
 }  // namespace
