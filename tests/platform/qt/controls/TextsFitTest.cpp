@@ -13,6 +13,7 @@
 #include "platform/qt/Theme.h"
 #include "platform/qt/controls/DocumentSize.h"
 #include "platform/qt/controls/QtInterfaceFiles.h"
+#include "preferences/FreeAppsItem.h"
 #include "preferences/FreeAppsViewController.h"
 #include "preferences/InitialViewController.h"
 #include "preferences/PopoverViewController.h"
@@ -85,7 +86,7 @@ protected:
     int measured = 0;
 };
 
-TEST_P(TextsFit, IntoEveryView) {
+TEST_P(TextsFit, IntoEveryViewAndEveryOutletActionAndImageFindsItsCounterpart) {
     for (const int points : {10, 12}) {
         QApplication::setFont(QFont("DejaVu Sans", points));
         SettingsController settings;
@@ -111,8 +112,24 @@ TEST_P(TextsFit, IntoEveryView) {
         PrivilegeController permission;
         expectWhole(permission, static_cast<int>(permission.view().size().width));
         EXPECT_LE(permission.view().size().width, 560);
+        FreeAppsItem().view();
     }
     EXPECT_GT(measured, 100);
+    // The made-up list of applications has no icons.
+    std::erase(desktop.log.lines, "image : the bundle has none of that name");
+    for (const std::string& line : desktop.log.lines)
+        EXPECT_FALSE(line.starts_with("interface ") || line.starts_with("image ")) << line;
+}
+
+TEST_P(TextsFit, IntoWindowsThatHaveATitleASizeAndAStyle) {
+    for (const char* name : {"Preferences", "PrivilegeWindowController"}) {
+        const WindowDescription window = files.window(name);
+        EXPECT_FALSE(window.title.empty()) << name;
+        EXPECT_GE(window.contentSize.width, window.minSize.width) << name;
+        EXPECT_GT(window.minSize.height, 200) << name;
+    }
+    EXPECT_EQ(files.window("Preferences").styleMask & (Window::titled | Window::closable),
+              Window::titled | Window::closable);
 }
 
 TEST_P(TextsFit, IntoThePanelsCells) {
