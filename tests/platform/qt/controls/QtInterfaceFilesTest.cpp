@@ -219,11 +219,9 @@ TEST_F(InterfaceFile, TheOwnerHearsOfEachComingAndGoingOnce) {
 
 TEST_F(InterfaceFile, AMistakeIsOneLineInTheLogAndTheRestWorks) {
     const std::vector<ActionBinding> right = owner.actions();
-    std::vector<ActionBinding> lacking = right;
+    auto lacking = right, unused = right, fromAnother = right;
     lacking.pop_back();
-    std::vector<ActionBinding> unused = right;
     unused.push_back(action("rest:", owner, &Owner::press));
-    std::vector<ActionBinding> fromAnother = right;
     fromAnother[0] = action("check:", owner, &Owner::slide);
     const struct {
         const char* outlet;

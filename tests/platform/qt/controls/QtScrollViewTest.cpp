@@ -36,13 +36,12 @@ protected:
     int top() const { return area->verticalScrollBar()->value(); }
 
     PlainInterfaceFiles files;
-    Page first;
-    Page second;
+    Page first, second;
     std::unique_ptr<QScrollArea> area;
     std::shared_ptr<ScrollView> view;
 };
 
-TEST_F(Scrolling, ADocumentFillsTheWidthKeepsItsHeightAndScrollsWithYUpward) {
+TEST_F(Scrolling, ADocumentFillsTheWidthScrollsWithYUpwardAndSurvivesBeingReplaced) {
     make(nullptr);
     EXPECT_EQ(view->documentViewBounds(), (Rect{0, 0, double(area->viewport()->width()), 400}));
     view->scrollDocumentTo({0, 250});
@@ -51,10 +50,7 @@ TEST_F(Scrolling, ADocumentFillsTheWidthKeepsItsHeightAndScrollsWithYUpward) {
     EXPECT_EQ(top(), 200);
     view->scrollDocumentTo({0, 400});
     EXPECT_EQ(top(), 0);
-}
 
-TEST_F(Scrolling, DocumentsSurviveBeingReplacedAndComeAndGoEachTime) {
-    make(nullptr);
     for (Page* const page : {&first, &second, &first}) view->setDocumentView(page->view());
     EXPECT_TRUE(first.widget().isVisible());
     EXPECT_EQ(first.appearances, 2);
