@@ -86,6 +86,21 @@ TEST(LibplistParser, ReadsBinaryWithSharedObjects) {
     EXPECT_EQ(parse(binary({{0x10, 5}})).value, PropertyList(std::int64_t{5})) << "no dictionary";
 }
 
+TEST(LibplistParser, ReadsEveryOtherTypeOfBinaryAndNothingThatIsCutOff) {
+    const Bytes whole = binary({{0xA5, 1, 2, 3, 4, 5},
+                                {0x44, 1, 2, 3, 4},
+                                {0x23, 0x3F, 0xF8, 0, 0, 0, 0, 0, 0},
+                                {0x33, 0x40, 0x4E, 0, 0, 0, 0, 0, 0},
+                                {0x80, 5},
+                                {0x08}});
+    EXPECT_EQ(parse(whole).value,
+              PropertyList(Array{PropertyList::Data{1, 2, 3, 4}, 1.5, 60.0, std::int64_t{5}, false}));
+    for (auto part = whole; !part.empty();) {
+        part.pop_back();
+        EXPECT_NE(parse(part).error, "") << part.size();
+    }
+}
+
 TEST(LibplistParser, SaysWhyItRefusesText) {
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"", "it is empty"},
