@@ -3,9 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <concepts>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -13,27 +16,178 @@
 #include <variant>
 #include <vector>
 
+#include "platform/CollectionViewItem.h"
+#include "platform/Controls.h"
 #include "platform/Interface.h"
+#include "platform/TableRowView.h"
 #include "platform/ViewController.h"
-#include "tests/doubles/FakeControls.h"
 
 namespace orlamo {
 
+/// What every fake control answers is a public field that the test may set.
 template <class Kind>
-struct FakeOf;
-// clang-format off
-template <> struct FakeOf<Control> { using Type = FakeControl; };
-template <> struct FakeOf<Button> { using Type = FakeButton; };
-template <> struct FakeOf<CheckBox> { using Type = FakeCheckBox; };
-template <> struct FakeOf<PopUpButton> { using Type = FakePopUpButton; };
-template <> struct FakeOf<Slider> { using Type = FakeSlider; };
-template <> struct FakeOf<ColorWell> { using Type = FakeColorWell; };
-template <> struct FakeOf<TextField> { using Type = FakeTextField; };
-template <> struct FakeOf<ImageView> { using Type = FakeImageView; };
-template <> struct FakeOf<TableView> { using Type = FakeTableView; };
-template <> struct FakeOf<ScrollView> { using Type = FakeScrollView; };
-template <> struct FakeOf<CollectionView> { using Type = FakeCollectionView; };
-// clang-format on
+class FakeControlOf : public Kind {
+public:
+    std::int64_t tag() const override { return tagNumber; }
+    double doubleValue() const override { return number; }
+    bool isHidden() const override { return hidden; }
+    void setHidden(bool hide) override { hidden = hide; }
+    void setEnabled(bool enable) override { enabled = enable; }
+    Rect bounds() const override { return area; }
+
+    std::int64_t tagNumber = 0;
+    double number = 0;
+    bool hidden = false;
+    bool enabled = true;
+    Rect area{0, 0, 100, 20};
+};
+
+template <class Kind>
+class FakeButtonOf : public FakeControlOf<Kind> {
+public:
+    double doubleValue() const override { return static_cast<double>(value); }
+    ControlState state() const override { return value; }
+    void setState(ControlState state) override { value = state; }
+    std::string title() const override { return text; }
+    void setTitle(std::string_view title) override { text = title; }
+
+    ControlState value = ControlState::off;
+    std::string text;
+};
+
+class FakeControl : public FakeControlOf<Control> {};
+class FakeButton : public FakeButtonOf<Button> {};
+class FakeCheckBox : public FakeButtonOf<CheckBox> {};
+
+class FakePopUpButton : public FakeControlOf<PopUpButton> {
+public:
+    std::optional<std::string> titleOfSelectedItem() const override { return selected; }
+    void selectItemWithTitle(std::string_view title) override {
+        if (std::ranges::find(items, title) != items.end()) selected = title;
+    }
+
+    std::vector<std::string> items{"Command", "Control", "Shift"};
+    std::optional<std::string> selected;
+};
+
+class FakeSlider : public FakeControlOf<Slider> {
+public:
+    std::int64_t integerValue() const override { return static_cast<std::int64_t>(number); }
+};
+
+class FakeColorWell : public FakeControlOf<ColorWell> {
+public:
+    Color color() const override { return value; }
+
+    Color value;
+};
+
+class FakeTextField : public FakeControlOf<TextField> {
+public:
+    std::string stringValue() const override { return text; }
+    void setStringValue(std::string_view value) override { text = value; }
+
+    std::string text;
+};
+
+class FakeImageView : public FakeControlOf<ImageView> {
+public:
+    void setImage(std::string_view name) override { image = name; }
+
+    std::string image;
+};
+
+class FakeTableView : public FakeControlOf<TableView> {
+public:
+    void setDelegate(TableViewDelegate& newDelegate) override {
+        delegate = &newDelegate;
+        rows = delegate->numberOfRowsInTableView(*this);
+    }
+    void setIntercellSpacing(Size size) override { spacing = size; }
+    int selectedRow() const override { return selected; }
+    void selectRow(int row) override {
+        if (row == selected || row < 0 || row >= rows) return;
+        selected = row;
+        selections.push_back(row);
+        delegate->tableViewSelectionDidChange(*this);
+    }
+
+    TableViewDelegate* delegate = nullptr;
+    Size spacing;
+    int rows = 0;
+    int selected = -1;
+    std::vector<int> selections;  // every change, by the program or by a test that plays the user
+};
+
+class FakeScrollView : public FakeControlOf<ScrollView> {
+public:
+    void setVerticalScrollElasticity(Elasticity value) override { elasticity = value; }
+    void setDocumentView(InterfaceView& view) override { documents.push_back(&view); }
+    Rect documentViewBounds() const override {
+        if (documents.empty()) return {};
+        const Size size = documents.back()->size();
+        return {0, 0, size.width, size.height};
+    }
+    void scrollDocumentTo(Point point) override { scrolledTo.push_back(point); }
+    void scrollBy(Point delta) override { scrolledBy.push_back(delta); }
+
+    Elasticity elasticity = Elasticity::automatic;
+    std::vector<InterfaceView*> documents;  // the last one is shown
+    std::vector<Point> scrolledTo;
+    std::vector<Point> scrolledBy;
+};
+
+class FakeCollectionView : public FakeControlOf<CollectionView> {
+public:
+    FlowLayout* flowLayout() override { return layout ? &*layout : nullptr; }
+    void setSelectable(bool value) override { selectable = value; }
+    void setAllowsEmptySelection(bool value) override { allowsEmptySelection = value; }
+    void setAllowsMultipleSelection(bool value) override { allowsMultipleSelection = value; }
+    void setDataSource(CollectionViewDataSource& source) override { dataSource = &source; }
+
+    // Each starts as what a page has to change.
+    std::optional<FlowLayout> layout{{FlowLayout::ScrollDirection::horizontal, true, true}};
+    bool selectable = false;
+    bool allowsEmptySelection = false;
+    bool allowsMultipleSelection = true;
+    CollectionViewDataSource* dataSource = nullptr;
+};
+
+/// What a popover was told; outlives it.
+struct FakePopoverRecord {
+    Popover::Behavior behavior = Popover::Behavior::applicationDefined;  // at the showing
+    ViewController* content = nullptr;
+    std::optional<Rect> rect;
+    Control* control = nullptr;
+    std::optional<RectEdge> edge;
+    bool isShown = false;  // a test that plays the user closes it here
+    bool isAlive = true;
+};
+
+class FakePopover : public Popover {
+public:
+    explicit FakePopover(std::shared_ptr<FakePopoverRecord> record) : record_(std::move(record)) {}
+    ~FakePopover() override { record_->isAlive = record_->isShown = false; }
+    void setContentViewController(ViewController& controller) override { record_->content = &controller; }
+    void showRelativeToRect(const Rect& rect, Control& control, RectEdge edge) override {
+        *record_ = {behavior, record_->content, rect, &control, edge, true, true};
+        record_->content->view();
+    }
+    bool isShown() const override { return record_->isShown; }
+
+private:
+    std::shared_ptr<FakePopoverRecord> record_;
+};
+
+/// The first of these fakes that is a control of that kind.
+template <class Kind, class First, class... Rest>
+auto makeFake() {
+    if constexpr (std::derived_from<First, Kind>) {
+        return std::make_shared<First>();
+    } else {
+        return makeFake<Kind, Rest...>();
+    }
+}
 
 class FakeInterfaceView;
 using FakeInterfaceViews = std::vector<FakeInterfaceView*>;
@@ -139,7 +293,8 @@ public:
 private:
     template <class Kind>
     static std::shared_ptr<Control> connect(Outlet<Kind>& outlet) {
-        auto control = std::make_shared<typename FakeOf<Kind>::Type>();
+        auto control = makeFake<Kind, FakeControl, FakeButton, FakeCheckBox, FakePopUpButton, FakeSlider, FakeColorWell,
+                                FakeTextField, FakeImageView, FakeTableView, FakeScrollView, FakeCollectionView>();
         outlet = control;
         return control;
     }

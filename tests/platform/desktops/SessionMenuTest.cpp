@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "tests/doubles/FakeSessionServices.h"
 #include "tests/doubles/FakeSettingsSource.h"
 
 namespace orlamo::desktops {
