@@ -8,6 +8,12 @@ namespace {
 
 class Loop : public QtFixture {
 protected:
+    void waitFor(double seconds) {
+        bool isOver = false;
+        loop.asyncAfter(seconds, [&] { isOver = true; });
+        turnEventLoopUntil([&] { return isOver; });
+    }
+
     qt::QtRunLoop loop;
 };
 
@@ -19,9 +25,7 @@ TEST_F(Loop, ATimerMayBeDestroyedByItsOwnTaskAndFiresNoMore) {
         ++*witness;
     });
     turnEventLoopUntil([&] { return *witness == 1; });
-    bool later = false;
-    loop.asyncAfter(0.02, [&] { later = true; });
-    turnEventLoopUntil([&] { return later; });
+    waitFor(0.02);
     EXPECT_EQ(*witness, 1);
     EXPECT_EQ(witness.use_count(), 1) << "the task is gone too";
 }
@@ -36,9 +40,7 @@ TEST_F(Loop, AReadableDescriptorIsHeardUntilItsWatchIsDestroyed) {
     });
     ASSERT_EQ(write(ends[1], "x", 1), 1);
     turnEventLoopUntil([&] { return heard == 2; });
-    bool later = false;
-    loop.asyncAfter(0.01, [&] { later = true; });
-    turnEventLoopUntil([&] { return later; });
+    waitFor(0.01);
     EXPECT_EQ(heard, 2);
     close(ends[0]);
     close(ends[1]);

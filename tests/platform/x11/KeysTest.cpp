@@ -35,22 +35,16 @@ constexpr std::uint16_t codeA = 0, codeZ = 6, codeQ = 12, codeOne = 18, codeEqua
                         codeKeypadSeven = 89;
 constexpr std::uint64_t functionKey = 0x800000, numericPad = 0x200000;
 
-TEST(KeyTable, EveryNamedVirtualKeyCodeHasAKeyAndEveryOtherHasNone) {
+TEST(KeyTable, EveryNamedVirtualKeyCodeHasAKeyThatLeadsBackToItAndEveryOtherHasNone) {
     const std::set<int> unnamed{10, 54, 55, 56, 57, 58, 59, 60, 61, 62,  63,  64,  66,  68,  70, 72,
                                 73, 74, 77, 79, 80, 90, 93, 94, 95, 102, 104, 106, 108, 110, 112};
-    for (int code = 0; code <= 126; ++code) {
-        EXPECT_EQ(keyRow(static_cast<std::uint16_t>(code)) != nullptr, !unnamed.contains(code)) << code;
-    }
-    EXPECT_EQ(keyRow(127), nullptr);
-    EXPECT_EQ(keyRow(65535), nullptr);
-}
-
-TEST(KeyTable, AKeysymLeadsBackToItsCode) {
-    for (std::uint16_t code = 0; code <= 126; ++code) {
+    for (std::uint16_t code = 0; code <= 127; ++code) {
         const KeyRow* const row = keyRow(code);
+        EXPECT_EQ(row != nullptr, code < 127 && !unnamed.contains(code)) << code;
         if (row == nullptr || code == 52) continue;  // 36 and 52 are the same key here
         EXPECT_EQ(virtualKeyCodeForKeysym(row->keysym), code);
     }
+    EXPECT_EQ(keyRow(65535), nullptr);
 }
 
 TEST(KeyboardLayout, AVirtualKeyCodeIsWhereAKeyTypesItByGroupThenByWhatIsHeld) {
