@@ -98,6 +98,15 @@ void PanelSurface::pointerEntered(const QEnterEvent& event) {
     if (event.globalPosition().toPoint() != pointerWhenShown_) listener_->pointerMoved(event.position());
 }
 
+// No key is for the toolkit to handle. It would tell assistive technologies of each, and lose the memory of those whose
+// answer comes when the window is gone.
+bool PanelSurface::nativeEvent(const QByteArray& kind, void* message, qintptr* result) {
+    constexpr int synthetic = 0x80;
+    if (kind != "xcb_generic_event_t") return QWindow::nativeEvent(kind, message, result);
+    const int type = static_cast<const xcb_generic_event_t*>(message)->response_type & ~synthetic;
+    return type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE;
+}
+
 bool PanelSurface::event(QEvent* event) {
     if (listener_ == nullptr) return QWindow::event(event);
     switch (event->type()) {

@@ -48,6 +48,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool nativeEvent(const QByteArray& kind, void* message, qintptr* result) override;
 
 private:
     void watchScreens();

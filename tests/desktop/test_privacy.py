@@ -106,6 +106,33 @@ class Privacy(DesktopTest):
             canaries = {CANARY.encode(encoding) for encoding in ("utf-8", "utf-16-le")}
             self.assertEqual({b"isBlurStyle"}, memory_holds(self.program.pid, {b"isBlurStyle", *canaries}))
 
+    def told_keys(self):
+        """Looks up which keys the program told assistive technologies of, in their order."""
+        record = self.session.folder / "told.txt"
+        address = accessible.bus_address(self.session.session_bus)
+        with record.open("wb") as output:
+            self.session.start(["dbus-monitor", "--address", address, "member=NotifyListenersSync"], output)
+        wait_until(lambda: record.stat().st_size, PATIENCE, "record of the accessibility bus")
+        told = re.compile(r'sender=(\S+) .*member=NotifyListenersSync\n(?: .*\n)*? *string "(.*)"')
+        return lambda: [key for sender, key in told.findall(record.read_text())
+                        if accessible.pid_of(self.session.accessibility_bus, sender) == self.program.pid]
+
+    def test_keys_typed_into_the_panel_are_told_to_nobody(self):
+        self.session.open_editor("mousepad", "")
+        self.start_program()
+        told = self.told_keys()
+        self.program.open_panel()
+        self.screen.type(CANARY)
+        self.screen.tap(self.screen.ESCAPE)
+        self.program.wait_until_closed()
+        # Its other windows tell of theirs, as every window of a desktop does.
+        self.session.start([PROGRAM]).wait(PATIENCE)
+        self.program.wait_for_preferences()
+        wait_until(lambda: self.screen.keyboard_pid() == self.program.pid, PATIENCE, "preferences with the keyboard")
+        self.screen.tap("Tab")
+        wait_until(told, PATIENCE, "key that is told")
+        self.assertEqual({"Tab"}, set(told()))
+
     def can_read(self, pid, file):
         """Whether another program of the same user can open that file of /proc."""
         return self.session.start(["sh", "-c", f"exec {AS_USER} sh -c 'exec 3< /proc/{pid}/{file}'"]).wait(PATIENCE) == 0
