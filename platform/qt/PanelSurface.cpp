@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QSurfaceFormat>
-#include <cstdlib>
 
 namespace orlamo::qt {
 
@@ -84,13 +83,6 @@ void PanelSurface::callBack() {
         if (listener_ != nullptr) listener_->calledBack();
     };
     QMetaObject::invokeMethod(this, call, Qt::QueuedConnection);
-}
-
-void PanelSurface::synchronize() {
-    auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    xcb_connection_t* const connection = x11 != nullptr ? x11->connection() : nullptr;
-    if (connection == nullptr) return;  // another window system
-    std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
 void PanelSurface::pointerEntered(const QEnterEvent& event) {

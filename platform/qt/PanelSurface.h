@@ -43,9 +43,6 @@ public:
 
     void callBack();
 
-    /// Waits until the window system has done what it was asked.
-    static void synchronize();
-
 protected:
     bool event(QEvent* event) override;
     bool nativeEvent(const QByteArray& kind, void* message, qintptr* result) override;

@@ -14,6 +14,7 @@
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/Replay.h"
 #include "platform/qt/ScreenSpace.h"
+#include "platform/qt/Synchronization.h"
 #include "platform/qt/TextCache.h"
 
 namespace orlamo::qt {
@@ -79,7 +80,7 @@ void QtWindowHost::orderFront() {
     // The picture follows the map in the same stream of requests: the window is never seen without it.
     surface_->setVisible(true);
     paintAll();
-    PanelSurface::synchronize();
+    synchronize();
     application_.windowCameToFront(surface_->winId());
     if (window_.needsDisplay()) scheduleUpdate();
 }

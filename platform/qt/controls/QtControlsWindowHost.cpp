@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "platform/ViewController.h"
-#include "platform/qt/PanelSurface.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/ScreenSpace.h"
+#include "platform/qt/Synchronization.h"
 #include "platform/qt/controls/QtInterfaceView.h"
 
 namespace orlamo::qt {
@@ -52,7 +52,7 @@ void QtControlsWindowHost::orderFront() {
         shell_->setWindowState(shell_->windowState() & ~Qt::WindowMinimized);
     }
     shell_->raise();
-    PanelSurface::synchronize();
+    synchronize();
     application_.managedWindowCameToFront(shell_->winId());
 }
 
@@ -68,7 +68,7 @@ void QtControlsWindowHost::create() {
     if ((window_.styleMask() & Window::titled) == 0) shell_->setFocus();
     place();
     shell_->winId();  // makes the native window, for what must be known of it before it appears
-    PanelSurface::synchronize();
+    synchronize();
     if (translucent && cornerRadius() > 0) shell_->roundCorners(cornerRadius());
     cutCorners();
 }
