@@ -50,21 +50,17 @@ TEST_F(DesktopPreferencesTest, OfAKnownDesktopThatCannotBeReadHaveNoValueAndALog
     EXPECT_TRUE(log.contains("The shortcuts of the desktop \"XFCE\" cannot be read"));
 }
 
-TEST_F(DesktopPreferencesTest, AnswerThatDomainAndKeyOnly) {
+TEST_F(DesktopPreferencesTest, AnswerThatDomainAndKeyOnlyAndAreReadAgainAfterASynchronizeAndNotBefore) {
     desktop = "GNOME";
     source->settings[wm + "show-desktop"] = {"<Super>d"};
-    EXPECT_NE(preferences.CFPreferencesCopyAppValue(key, domain), PropertyList());
+    EXPECT_NE(preferences.CFPreferencesCopyAppValue(key, domain), PropertyList()) << "without one at first";
     EXPECT_EQ(preferences.CFPreferencesCopyAppValue("Other", domain), PropertyList());
     EXPECT_EQ(preferences.CFPreferencesCopyAppValue(key, "com.apple.dock"), PropertyList());
-}
-
-TEST_F(DesktopPreferencesTest, AreReadAgainAfterASynchronizeAndNotBefore) {
-    source->settings[wm + "show-desktop"] = {"<Super>d"};
     const auto before = read("GNOME");
     source->settings[wm + "show-desktop"] = {"<Super>F12"};
     EXPECT_EQ(preferences.CFPreferencesCopyAppValue(key, domain), before);
     EXPECT_EQ(entry("GNOME", "36"), "on [65535, 111, 262144]");
-    EXPECT_EQ(source->refreshes, 2);
+    EXPECT_EQ(source->refreshes, 3);
     EXPECT_EQ(entry("XFCE", "36"), "missing");
 }
 

@@ -13,19 +13,11 @@ namespace fs = std::filesystem;
 using Value = UserDefaults::Value;
 
 TEST(SettingsJson, EveryTypeReadsBackExactly) {
-    const std::vector<Value> values{true,
-                                    false,
-                                    std::numeric_limits<std::int64_t>::max(),
-                                    std::numeric_limits<std::int64_t>::min(),
-                                    std::int64_t{9007199254740993},
-                                    1.0,
-                                    0.1,
-                                    -1e300,
-                                    std::string(),
-                                    std::string("中 \"⌘\"\n\\"),
-                                    UserDefaults::Data{},
-                                    UserDefaults::Data{0, 255, 10, 34}};
-    for (const Value& value : values) {
+    using Integers = std::numeric_limits<std::int64_t>;
+    for (const Value& value :
+         {Value(true), Value(false), Value(Integers::max()), Value(Integers::min()),
+          Value(std::int64_t{9007199254740993}), Value(1.0), Value(0.1), Value(-1e300), Value(std::string()),
+          Value(std::string("中 \"⌘\"\n\\")), Value(UserDefaults::Data{}), Value(UserDefaults::Data{0, 255, 10, 34})}) {
         qt::SettingsJson settings;
         ASSERT_TRUE(settings.setValue("key", value));
         const auto again = qt::SettingsJson::parse(settings.text());

@@ -93,9 +93,7 @@ TEST_P(TextsFit, IntoEveryViewAndEveryOutletActionAndImageFindsItsCounterpart) {
         TutorialViewController tutorial;
         FreeAppsViewController applications;
         UserSupportController support;
-        for (ViewController* const page :
-             {static_cast<ViewController*>(&settings), static_cast<ViewController*>(&tutorial),
-              static_cast<ViewController*>(&applications), static_cast<ViewController*>(&support)})
+        for (auto* const page : std::vector<ViewController*>{&settings, &tutorial, &applications, &support})
             expectWhole(*page, leastPageWidth);
         InitialViewController window;
         expectWhole(window, leastWindowWidth);
