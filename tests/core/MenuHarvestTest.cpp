@@ -3,10 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "core/MenuWalk.h"
-#include "tests/doubles/FakeAccessibility.h"
-#include "tests/doubles/FakeClock.h"
-#include "tests/doubles/FakeLog.h"
-#include "tests/doubles/FakeWorkspace.h"
+#include "tests/doubles/FakeDesktop.h"
 
 namespace orlamo {
 namespace {
@@ -15,23 +12,19 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Items = std::vector<FakeElementPtr>;
 
-constexpr int pid = 4711;
+constexpr int pid = FakeDesktop::editorProcess;
+constexpr auto menu = FakeAccessibility::menu;
+constexpr auto submenu = FakeAccessibility::submenu;
 
-struct MenuHarvest : testing::Test {
+FakeElementPtr item(std::string_view title, std::string_view key, std::int64_t modifiers = 0) {
+    return FakeAccessibility::item(title, key, modifiers);
+}
+
+struct MenuHarvest : testing::Test, FakeDesktop {
     MenuHarvest() {
-        workspace.frontmost = RunningApplication{pid, "org.example.Editor", "Editor"};
+        openEditor({});
         menuItemKeyCodes.clear();
     }
-    static FakeElementPtr item(std::string_view title, std::string_view key) {
-        return FakeAccessibility::item(title, key);
-    }
-    static FakeElementPtr menu(std::string_view title, Items items) {
-        return FakeAccessibility::menu(title, std::move(items));
-    }
-    static FakeElementPtr submenu(std::string_view title, Items items) {
-        return FakeAccessibility::submenu(title, std::move(items));
-    }
-
     // Headings as they are, records as "Path|Title|Modifier|Char|Glyph".
     std::vector<std::string> harvested() {
         std::vector<std::string> lines;
@@ -41,11 +34,10 @@ struct MenuHarvest : testing::Test {
                 continue;
             }
             const auto& record = std::get<MenuItemRecord>(entry);
-            std::string line = record["Path"].value_or("(absent)");
+            lines.push_back(record["Path"].value_or("(absent)"));
             for (const char* const key : {"Title", "Modifier", "MenuItemCmdChar", "MenuItemCmdGlyph"}) {
-                line += "|" + record[key].value_or("(absent)");
+                lines.back() += "|" + record[key].value_or("(absent)");
             }
-            lines.push_back(line);
         }
         return lines;
     }
@@ -54,10 +46,7 @@ struct MenuHarvest : testing::Test {
         ax.setMenuBar(pid, {menu("Edit", std::move(items))});
         return harvested();
     }
-    FakeLog log;
-    FakeClock clock;
-    FakeWorkspace workspace;
-    FakeAccessibility ax;
+    FakeAccessibility& ax = accessibility;
 };
 
 TEST_F(MenuHarvest, MenusAreReadFromLeftToRightAndTheApplicationsNameComesLast) {
@@ -81,17 +70,15 @@ TEST_F(MenuHarvest, TheApplicationComesToTheFrontBeforeItIsRead) {
 }
 
 TEST_F(MenuHarvest, EveryModifierNumberHasItsTextOrDropsTheItem) {
-    const std::map<std::int64_t, std::string_view> texts{
-        {0, "⌘"},   {1, "⇧⌘"},   {2, "⌥⌘"}, {3, "⌥⇧⌘"}, {4, "⌃⌘"},  {5, "⌃⇧⌘"},
-        {6, "⌃⌥⌘"}, {7, "⌃⌥⇧⌘"}, {12, "⌃"}, {13, "⌃⇧"}, {24, "fn"},
-    };
+    const std::map<std::int64_t, std::string_view> texts{{0, "⌘"},  {1, "⇧⌘"},  {2, "⌥⌘"},  {3, "⌥⇧⌘"},
+                                                         {4, "⌃⌘"}, {5, "⌃⇧⌘"}, {6, "⌃⌥⌘"}, {7, "⌃⌥⇧⌘"},
+                                                         {12, "⌃"}, {13, "⌃⇧"}, {24, "fn"}};
     for (std::int64_t number = -3; number < 40; ++number) {
         const auto found = texts.find(number);
         EXPECT_EQ(modifierSymbolsOfMenuItem(number), found == texts.end() ? std::nullopt : std::optional(found->second))
             << number;
     }
-    EXPECT_THAT(harvestedMenu({FakeAccessibility::item("Copy", "C", 12), FakeAccessibility::item("No", "N", 8)}),
-                ElementsAre("Edit", "Edit|Copy|⌃|C|"));
+    EXPECT_THAT(harvestedMenu({item("Copy", "C", 12), item("No", "N", 8)}), ElementsAre("Edit", "Edit|Copy|⌃|C|"));
     EXPECT_THAT(menuItemKeyCodes, ElementsAre(MenuItemKeyCode{8, 12}));
 }
 

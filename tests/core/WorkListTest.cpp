@@ -27,21 +27,12 @@ std::size_t numberOf(const AXUIElementRef& element) {
     return static_cast<const Numbered&>(*element).number;
 }
 
-// What taking has to do, said plainly.
-std::size_t takeScanning(std::vector<std::size_t>& numbers) {
-    const std::size_t front = numbers.front();
-    std::erase(numbers, front);
-    return front;
-}
-
 TEST(WorkList, TakesTheSameElementsAsAListThatIsScanned) {
     for (unsigned seed = 1; seed <= 200; ++seed) {
         std::mt19937 random(seed);
         const std::size_t distinct = 1 + random() % 12;
-        WorkList queue;
-        WorkList pending;
-        std::vector<std::size_t> expectedQueue;
-        std::vector<std::size_t> expectedPending;
+        WorkList queue, pending;
+        std::vector<std::size_t> expectedQueue, expectedPending;
         for (int step = 0; step < 400; ++step) {
             const auto choice = random() % 100;
             if (choice < 55) {
@@ -50,7 +41,9 @@ TEST(WorkList, TakesTheSameElementsAsAListThatIsScanned) {
                 expectedQueue.push_back(number);
             } else if (choice < 90) {
                 if (expectedQueue.empty()) continue;
-                ASSERT_EQ(numberOf(queue.take()), takeScanning(expectedQueue)) << "seed " << seed;
+                const std::size_t front = expectedQueue.front();
+                ASSERT_EQ(numberOf(queue.take()), front) << "seed " << seed;
+                std::erase(expectedQueue, front);
             } else {
                 std::swap(queue, pending);
                 std::swap(expectedQueue, expectedPending);

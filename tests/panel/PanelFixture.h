@@ -41,10 +41,13 @@ protected:
     void addItems(std::int64_t count) {
         for (std::int64_t i = 0; i < count; ++i) addItem("Item " + std::to_string(i));
     }
-    void addSystem(const std::string& title, const std::string& modifier, const std::string& key, std::int64_t keycode,
-                   std::int64_t mask) {
+    void addSystem(const std::string& title, const std::string& modifier = "⌃", const std::string& key = "D",
+                   std::int64_t keycode = 2, std::int64_t mask = 0x40000) {
         systemShortcutList.emplace_back(SystemShortcutRecord{title, modifier, key});
         systemKeyCombos.push_back({keycode, mask});
+    }
+    void addSystems(std::int64_t count) {
+        while (count-- > 0) addSystem("Keyboard//Other");
     }
 
     /// Ends the application's list with its name, puts the view into the window and draws once.

@@ -9,10 +9,10 @@
 namespace orlamo {
 namespace {
 
-constexpr const char* accessibilityPane =
-    "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
-constexpr const char* screenCapturePane =
-    "x-apple.systempreferences:com.apple.preference.security?Privacy_ScreenCapture";
+const std::string panes = "x-apple.systempreferences:com.apple.preference.security?Privacy_";
+const std::string accessibilityPane = panes + "Accessibility", screenCapturePane = panes + "ScreenCapture";
+
+using Lines = std::vector<std::string>;
 
 class Permissions : public testing::Test {
 protected:
@@ -27,12 +27,12 @@ protected:
 
     FakeDesktop desktop;
     FakeInterfaceFiles files;
+    FakeButton button;
     ApplicationDelegate delegate;
+    PrivilegeManager manager{delegate};
 };
 
 TEST_F(Permissions, ATrustedProgramLooksOnceAndShowsNothing) {
-    desktop.accessibility.trusted = true;
-    PrivilegeManager manager(delegate);
     manager.checkPermission();
     EXPECT_EQ(manager.timer, nullptr);
     desktop.accessibility.trusted = false;
@@ -43,7 +43,6 @@ TEST_F(Permissions, ATrustedProgramLooksOnceAndShowsNothing) {
 
 TEST_F(Permissions, GrantedAfterTwelveSecondsTheWindowCloses) {
     desktop.accessibility.trusted = false;
-    PrivilegeManager manager(delegate);
     manager.checkPermission();
     desktop.runLoop.advance(1.9);
     EXPECT_EQ(desktop.windows.visibleWindows(), 0);
@@ -68,7 +67,6 @@ TEST_F(Permissions, GrantedAfterTwelveSecondsTheWindowCloses) {
 
 TEST_F(Permissions, TheWindowIsShownOnceHoweverLongThePermissionIsMissing) {
     desktop.accessibility.trusted = false;
-    PrivilegeManager manager(delegate);
     manager.checkPermission();
     desktop.runLoop.advance(3);
     manager.priviegeWindow.close();
@@ -114,28 +112,26 @@ TEST_F(PermissionPane, TheRowFollowsThePermissionEverySecond) {
 }
 
 TEST_F(PermissionPane, EachButtonOpensWhatItsTagSays) {
-    struct Case {
+    const struct {
         std::int64_t tag;
         bool trusted;
-        std::vector<std::string> lines;
-        std::vector<std::string> opened;
+        Lines lines, opened;
         std::size_t presses;
-    };
-    const std::vector<Case> cases{{1, false, {"授权----辅助功能"}, {accessibilityPane}, 1},
-                                  {2, false, {"授权----屏幕录制"}, {screenCapturePane}, 0},
-                                  {2, true, {"授权----屏幕录制"}, {}, 0},
-                                  {3, false, {"授权----全盘访问"}, {}, 0},
-                                  {4, false, {}, {}, 0}};
+    } cases[]{{1, false, {"授权----辅助功能"}, {accessibilityPane}, 1},
+              {2, false, {"授权----屏幕录制"}, {screenCapturePane}, 0},
+              {2, true, {"授权----屏幕录制"}, {}, 0},
+              {3, false, {"授权----全盘访问"}, {}, 0},
+              {4, false, {}, {}, 0}};
     desktop.windows.mouse = {12, 34};
-    for (const Case& each : cases) {
+    for (const auto& each : cases) {
         desktop.log.lines.clear();
         desktop.workspace.opened.clear();
         desktop.poster.pointer.clear();
         desktop.accessibility.trusted = each.trusted;
-        FakeButton sender;
-        sender.tagNumber = each.tag;
-        files.perform("getPermissions:", sender);
-        EXPECT_EQ(sender.value, ControlState::on) << each.tag;
+        button.tagNumber = each.tag;
+        button.value = ControlState::off;
+        files.perform("getPermissions:", button);
+        EXPECT_EQ(button.value, ControlState::on) << each.tag;
         EXPECT_EQ(desktop.log.lines, each.lines) << each.tag;
         EXPECT_EQ(desktop.workspace.opened, each.opened) << each.tag;
         ASSERT_EQ(desktop.poster.pointer.size(), each.presses) << each.tag;
@@ -147,13 +143,14 @@ TEST_F(PermissionPane, EachButtonOpensWhatItsTagSays) {
     }
 }
 
-TEST_F(PermissionPane, OnlyATickedBoxOpensTheSettings) {
+TEST_F(PermissionPane, OnlyATickedBoxOpensTheSettingsAndTheHelpLinkItsPage) {
     auto& box = files.control<FakeCheckBox>("accessibilityCheckBox");
     files.perform("toggleAccessibility:", box);
     EXPECT_TRUE(desktop.workspace.opened.empty());
     box.value = ControlState::on;
     files.perform("toggleAccessibility:", box);
-    EXPECT_EQ(desktop.workspace.opened, std::vector<std::string>{accessibilityPane});
+    files.perform("WatchingPermissionsConfiguration:", button);
+    EXPECT_EQ(desktop.workspace.opened, (Lines{accessibilityPane, "https://a.example/"}));
     EXPECT_EQ(desktop.poster.pointer.size(), 1U);
 }
 
@@ -162,16 +159,9 @@ TEST_F(Permissions, TheCloseButtonEndsTheRefreshAndClosesTheWindow) {
     window.showWindow();
     auto& controller = dynamic_cast<PrivilegeController&>(window.contentViewController());
     controller.viewWillAppear();
-    FakeButton sender;
-    files.perform("closeWindow:", sender);
+    files.perform("closeWindow:", button);
     EXPECT_EQ(controller.timer, nullptr);
     EXPECT_EQ(desktop.windows.visibleWindows(), 0);
-}
-
-TEST_F(PermissionPane, TheHelpLinkOpensItsPage) {
-    FakeButton sender;
-    files.perform("WatchingPermissionsConfiguration:", sender);
-    EXPECT_EQ(desktop.workspace.opened, std::vector<std::string>{"https://a.example/"});
 }
 
 }  // namespace

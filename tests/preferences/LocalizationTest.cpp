@@ -46,21 +46,17 @@ TEST(Bundler, KeepsTheBundleOfItsFirstRead) {
 
 TEST(Format, TakesArgumentsInOrderOrByPositionAndLeavesWhatItCannotFill) {
     const std::vector<std::string_view> arguments{"one", "%@"};
-    const std::pair<const char*, const char*> cases[] = {{"", ""},
-                                                         {"%@ and %@", "one and %@"},
+    const std::pair<const char*, const char*> cases[] = {{"%@ and %@", "one and %@"},
                                                          {"%2$@, %1$@, %1$@", "%@, one, one"},
                                                          {"%2$@ %@", "%@ one"},
                                                          {"%%@", "%@"},
                                                          {"100 %% of %@", "100 % of one"},
                                                          {"%@%@%@", "one%@%@"},
-                                                         {"%3$@ %0$@", "%3$@ %0$@"},
-                                                         {"%", "%"},
-                                                         {"%1", "%1"},
-                                                         {"%1$", "%1$"},
-                                                         {"%d %-1$@", "%d %-1$@"},
-                                                         {"五%@六", "五one六"},
-                                                         {"%99999999999999999999$@", "%99999999999999999999$@"}};
+                                                         {"五%@六", "五one六"}};
     for (const auto& [format, result] : cases) EXPECT_EQ(formatted(format, arguments), result) << format;
+    for (const char* const same : {"", "%3$@ %0$@", "%", "%1", "%1$", "%d %-1$@", "%99999999999999999999$@"}) {
+        EXPECT_EQ(formatted(same, arguments), same);
+    }
 }
 
 }  // namespace

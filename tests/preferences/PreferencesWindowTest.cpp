@@ -100,14 +100,6 @@ TEST_F(PreferencesTest, AWindowWhoseScreenIsGoneComesBackOnTheOneThatIsLeft) {
     EXPECT_EQ(preferences.window()->frame(), (Rect{8, 48, 704, 354}));
 }
 
-using Fills = std::vector<RecordingGraphicsContext::Fill>;
-
-Fills drawn(LCCustomTableRowView& row) {
-    RecordingGraphicsContext context;
-    row.display(context);
-    return context.fills;
-}
-
 TEST(RowView, IsLightUnderThePointerAndDarkWhenSelected) {
     LCCustomTableRowView row;
     row.setFrame({0, 42, 200, 32});
@@ -115,24 +107,27 @@ TEST(RowView, IsLightUnderThePointerAndDarkWhenSelected) {
     EXPECT_EQ(row.trackingAreas().at(0).rect, row.bounds());
     EXPECT_EQ(row.trackingAreas().at(0).options, 129U);
 
+    using Fills = std::vector<RecordingGraphicsContext::Fill>;
+    const auto drawn = [&row] {
+        RecordingGraphicsContext context;
+        row.display(context);
+        return context.fills;
+    };
     const Path outline = Path::roundedRect({12.5, 2.5, 175, 27}, 10);
-    const Fills dark{{outline, {0, 0, 0, 0.35}}};
-    EXPECT_EQ(drawn(row), Fills{});
-    row.mouseEntered({});
-    EXPECT_TRUE(row.needsDisplay());
-    EXPECT_EQ(drawn(row), (Fills{{outline, {1, 1, 1, 0.1}}}));
-    row.isSelected = true;
-    EXPECT_EQ(drawn(row), dark);
-    row.mouseExited({});
-    EXPECT_TRUE(row.needsDisplay());
-    EXPECT_EQ(drawn(row), dark);
-    row.isSelected = false;
-    EXPECT_EQ(drawn(row), Fills{});
-    row.isSelected = true;
+    const Fills none, light{{outline, {1, 1, 1, 0.1}}}, dark{{outline, {0, 0, 0, 0.35}}};
+    EXPECT_EQ(drawn(), none);
+    for (const auto& [isUnderPointer, fills] : {std::pair(true, light), std::pair(false, none)}) {
+        row.isSelected = false;
+        isUnderPointer ? row.mouseEntered({}) : row.mouseExited({});
+        EXPECT_TRUE(row.needsDisplay());
+        EXPECT_EQ(drawn(), fills);
+        row.isSelected = true;
+        EXPECT_EQ(drawn(), dark);
+    }
     row.setFrame({0, 0, 26, 6});
-    EXPECT_EQ(drawn(row), (Fills{{Path::roundedRect({12.5, 2.5, 1, 1}, 10), {0, 0, 0, 0.35}}}));
+    EXPECT_EQ(drawn(), (Fills{{Path::roundedRect({12.5, 2.5, 1, 1}, 10), {0, 0, 0, 0.35}}}));
     row.selectionHighlightStyle = TableRowView::SelectionHighlightStyle::none;
-    EXPECT_EQ(drawn(row), Fills{});
+    EXPECT_EQ(drawn(), none);
 }
 
 TEST(GradientView, EveryPropertyFromTheFileReachesTheLayer) {

@@ -13,6 +13,7 @@
 namespace orlamo {
 namespace {
 
+using Lines = std::vector<std::string>;
 using Values = std::map<std::string, UserDefaults::Value, std::less<>>;
 
 class Launch : public testing::Test {
@@ -24,7 +25,6 @@ protected:
         delegate.applicationDidFinishLaunching();
         desktop.log.lines.clear();
     }
-    void choose(std::size_t entry) const { statusBar.item->menu.items.at(entry).action(); }
 
     FakeDesktop desktop;
     FakeInterfaceFiles files;
@@ -57,6 +57,8 @@ TEST_F(Launch, TheStepsFollowEachOtherInOrder) {
                                      "launch: click monitor", "launch: status item", "launch: settings observers"));
     EXPECT_THAT(desktop.application.activations, testing::ElementsAre(Application::IgnoringOtherApps::yes));
     EXPECT_TRUE(desktop.application.policies.empty());
+    EXPECT_THAT(desktop.monitors.localMasks(), testing::ElementsAre(4096U, 1024U));
+    EXPECT_THAT(desktop.monitors.globalMasks(), testing::ElementsAre(4096U, 2U));
 }
 
 TEST_F(Launch, TheNextLaunchLooksForNoUpdatesAndShowsTheIconAlsoWhenItIsHidden) {
@@ -68,7 +70,7 @@ TEST_F(Launch, TheNextLaunchLooksForNoUpdatesAndShowsTheIconAlsoWhenItIsHidden) 
     EXPECT_TRUE(statusBar.item->isVisible);
 }
 
-TEST_F(Launch, TheStatusMenuHasFourEntriesThatDoTheirWork) {
+TEST_F(Launch, TheStatusMenuHasFourEntriesThatDoTheirWorkAndASecondLaunchThatOfTheFirst) {
     launch();
     const FakeStatusItemRecord& item = *statusBar.item;
     EXPECT_EQ(item.length, -2);
@@ -86,35 +88,31 @@ TEST_F(Launch, TheStatusMenuHasFourEntriesThatDoTheirWork) {
     }
     const std::size_t activations = desktop.application.activations.size();
     delegate.preferences.close();
-    choose(0);
+    item.menu.items[0].action();
     EXPECT_EQ(desktop.windows.visibleWindows(), 1);
     EXPECT_EQ(desktop.application.activations.size(), activations + 1);
-    updates.checks.clear();
-    choose(1);
-    EXPECT_THAT(updates.checks, testing::ElementsAre(SPUStandardUpdaterController::Origin::user));
-    choose(3);
-    EXPECT_EQ(desktop.application.terminations, 1);
-}
-
-TEST_F(Launch, LaunchedAgainTheRunningProgramShowsItsPreferences) {
-    launch();
     delegate.preferences.close();
-    EXPECT_TRUE(delegate.applicationShouldHandleReopen(false));
+    EXPECT_TRUE(delegate.applicationShouldHandleReopen(false)) << "what a second launch does";
     EXPECT_EQ(desktop.windows.visibleWindows(), 1);
     EXPECT_EQ(desktop.windows.records.size(), 1U) << "the same window";
+    updates.checks.clear();
+    item.menu.items[1].action();
+    EXPECT_THAT(updates.checks, testing::ElementsAre(SPUStandardUpdaterController::Origin::user));
+    item.menu.items[3].action();
+    EXPECT_EQ(desktop.application.terminations, 1);
 }
 
 TEST_F(Launch, TheIconFollowsItsSetting) {
     launch();
     desktop.defaults.setObject("isHiddenStatusBar", true);
     EXPECT_FALSE(statusBar.item->isVisible);
-    EXPECT_EQ(desktop.log.lines, (std::vector<std::string>{"更新状态栏图标。。。。", "---隐藏"}));
+    EXPECT_EQ(desktop.log.lines, (Lines{"更新状态栏图标。。。。", "---隐藏"}));
     desktop.log.lines.clear();
     desktop.defaults.values["NSStatusItem Preferred Position Item-0"] = std::int64_t{70};
     const int synchronizations = desktop.defaults.synchronizations;
     desktop.defaults.setObject("isHiddenStatusBar", false);
     EXPECT_TRUE(statusBar.item->isVisible);
-    EXPECT_EQ(desktop.log.lines, (std::vector<std::string>{"更新状态栏图标。。。。", "----显示"}));
+    EXPECT_EQ(desktop.log.lines, (Lines{"更新状态栏图标。。。。", "----显示"}));
     EXPECT_EQ(desktop.defaults.integerForKey("NSStatusItemPreferredPositionItem-0"), 70) << "written back, so copied";
     EXPECT_EQ(desktop.defaults.synchronizations, synchronizations + 2);
 
@@ -148,29 +146,22 @@ TEST_F(Launch, AFreshAccountGetsTheDefaultsOnce) {
 }
 
 TEST_F(Launch, OneMissingOrMistypedBooleanResetsAllFive) {
-    const std::vector<UserDefaults::Value> unusable{std::monostate{}, std::string("true"), std::int64_t{2}};
-    for (const auto& value : unusable) {
+    Values others = initialBooleans;
+    for (auto& [name, value] : others) value = !std::get<bool>(value);
+    for (const auto& unusable :
+         {UserDefaults::Value(), UserDefaults::Value("true"), UserDefaults::Value(std::int64_t{2})}) {
         for (const std::string_view key : defaultsInitializationKeys) {
-            desktop.defaults.values.clear();
-            for (const auto& [name, initial] : initialBooleans) {
-                desktop.defaults.values[name] = !std::get<bool>(initial);
-            }
-            desktop.defaults.values[std::string(key)] = value;
+            desktop.defaults.values = others;
+            desktop.defaults.values[std::string(key)] = unusable;
             writeDefaultValues(desktop.defaults);
             EXPECT_EQ(desktop.defaults.values, initialBooleans) << key;
         }
     }
-}
-
-TEST_F(Launch, FiveStoredBooleansStayAsTheyWere) {
-    for (const auto& [name, initial] : initialBooleans) desktop.defaults.values[name] = !std::get<bool>(initial);
+    desktop.defaults.values = others;
     desktop.defaults.values["isBlurStyle"] = 0.0;
     desktop.defaults.values["isHiddenStatusBar"] = std::int64_t{1};
-    Values before = desktop.defaults.values;
     writeDefaultValues(desktop.defaults);
-    before["isBlurStyle"] = false;
-    before["isHiddenStatusBar"] = true;
-    EXPECT_EQ(desktop.defaults.values, before);
+    EXPECT_EQ(desktop.defaults.values, others) << "five good ones stay as they were";
 }
 
 TEST_F(Launch, TheColourComesBackAsItWasStoredAndElseIsTheSystems) {
@@ -193,34 +184,20 @@ TEST_F(Launch, TheTriggerDefaultsToCommandAndAChosenOneStays) {
     EXPECT_EQ(desktop.defaults.synchronizations, 1);
 }
 
-TEST_F(Launch, MonitorsAreInstalledForModifiersKeysAndPresses) {
-    delegate.applicationDidFinishLaunching();
-    EXPECT_THAT(desktop.monitors.localMasks(), testing::ElementsAre(4096U, 1024U));
-    EXPECT_THAT(desktop.monitors.globalMasks(), testing::ElementsAre(4096U, 2U));
-}
-
 TEST_F(Launch, APressInAnotherApplicationClosesThePanelWhereverThePointerIsOnAScreen) {
     delegate.applicationDidFinishLaunching();
     desktop.windows.others = {{{1440, 0, 800, 600}, "Second"}};
     const Event press{.type = Event::Type::leftMouseDown};
-    struct Case {
-        Point pointer;
-        const char* screen;
-    };
-    for (const Case& expected :
-         {Case{{10, 10}, "Test screen"}, Case{{1500, 599}, "Second"}, Case{{1500, 700}, nullptr}}) {
+    const std::pair<Point, std::string> cases[] = {
+        {{10, 10}, "Test screen"}, {{1500, 599}, "Second"}, {{1500, 700}, ""}};
+    for (const auto& [pointer, screen] : cases) {
         desktop.log.lines.clear();
-        desktop.windows.mouse = expected.pointer;
+        desktop.windows.mouse = pointer;
         isShortcutWindowShown = true;
         desktop.monitors.deliverGlobal(press);
-        EXPECT_EQ(isShortcutWindowShown, expected.screen == nullptr);
-        if (expected.screen == nullptr) {
-            EXPECT_TRUE(desktop.log.lines.empty());
-            continue;
-        }
-        EXPECT_EQ(desktop.log.lines,
-                  (std::vector<std::string>{"鼠标在屏幕 " + std::string(expected.screen) + " 的范围内，隐藏窗口",
-                                            "关闭快捷键窗口。。。"}));
+        EXPECT_EQ(isShortcutWindowShown, screen.empty());
+        const Lines lines{"鼠标在屏幕 " + screen + " 的范围内，隐藏窗口", "关闭快捷键窗口。。。"};
+        EXPECT_EQ(desktop.log.lines, screen.empty() ? Lines{} : lines);
     }
     isShortcutWindowShown = false;
 }
