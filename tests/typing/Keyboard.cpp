@@ -8,7 +8,6 @@
 #include <memory>
 
 #include "platform/x11/Connection.h"
-#include "platform/x11/Xkb.h"
 
 namespace orlamo::typing {
 
@@ -24,19 +23,10 @@ void giveUp(const std::string& why) {
 Display::Display() : xcb_(xcb_connect(nullptr, nullptr)) {
     if (xcb_connection_has_error(xcb_) != 0) giveUp("no X server");
     root_ = xcb_setup_roots_iterator(xcb_get_setup(xcb_)).data->root;
-    const Owned<xcb_xkb_use_extension_reply_t> xkb(
-        xcb_xkb_use_extension_reply(xcb_, xcb_xkb_use_extension(xcb_, 1, 0), nullptr));
-    if (!xkb) giveUp("the X server lacks the keyboard extension");
 }
 
 Display::~Display() {
     xcb_disconnect(xcb_);
-}
-
-void Display::sync() {
-    const Owned<xcb_get_input_focus_reply_t> answer(
-        xcb_get_input_focus_reply(xcb_, xcb_get_input_focus(xcb_), nullptr));
-    if (!answer) giveUp("the X server is gone");
 }
 
 Keycodes Display::down() {
@@ -49,16 +39,16 @@ Keycodes Display::down() {
     return keys;
 }
 
-std::uint8_t Display::modifiers() {
-    const Owned<xcb_xkb_get_state_reply_t> answer(
-        xcb_xkb_get_state_reply(xcb_, xcb_xkb_get_state(xcb_, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+std::uint16_t Display::modifiers() {
+    const Owned<xcb_query_pointer_reply_t> answer(
+        xcb_query_pointer_reply(xcb_, xcb_query_pointer(xcb_, root_), nullptr));
     if (!answer) giveUp("the X server is gone");
-    return answer->mods;
+    return answer->mask & 0xff;
 }
 
-void Display::fake(std::uint8_t key, bool down) {
-    xcb_test_fake_input(xcb_, down ? XCB_KEY_PRESS : XCB_KEY_RELEASE, key, XCB_CURRENT_TIME, root_, 0, 0, 0);
-    sync();
+void Display::release(std::uint8_t key) {
+    xcb_test_fake_input(xcb_, XCB_KEY_RELEASE, key, XCB_CURRENT_TIME, root_, 0, 0, 0);
+    down();
 }
 
 PhysicalKeyboard::PhysicalKeyboard() {
@@ -93,7 +83,7 @@ void PhysicalKeyboard::release(std::uint8_t key) {
 
 void PhysicalKeyboard::send(std::uint8_t key, std::uint8_t event) {
     xcb_test_fake_input(display_.xcb(), firstEvent_ + event, key, XCB_CURRENT_TIME, XCB_NONE, 0, 0, device_);
-    display_.sync();
+    display_.down();
 }
 
 Recorder::Recorder() {
@@ -106,7 +96,7 @@ Recorder::Recorder() {
 }
 
 std::vector<Recorder::Key> Recorder::take() {
-    display_.sync();
+    display_.down();
     std::vector<Key> keys;
     while (const Owned<xcb_generic_event_t> event{xcb_poll_for_queued_event(display_.xcb())}) {
         const auto type = event->response_type & 0x7f;

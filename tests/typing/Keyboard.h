@@ -21,14 +21,12 @@ public:
 
     xcb_connection_t* xcb() const { return xcb_; }
     xcb_window_t root() const { return root_; }
-    /// Until the server has done all that was asked before.
-    void sync();
-    /// What is down on the core keyboard, whoever pressed it.
+    /// What is down on the core keyboard, whoever pressed it, once the server has done all that was asked before.
     Keycodes down();
     /// The core keyboard's real modifiers that are held, latched or locked.
-    std::uint8_t modifiers();
+    std::uint16_t modifiers();
     /// Through the test extension's own keyboard, as every program may.
-    void fake(std::uint8_t key, bool down);
+    void release(std::uint8_t key);
 
 private:
     xcb_connection_t* xcb_;

@@ -2,14 +2,12 @@
 //
 //   orlamo_typing combinations COUNT   while a second keyboard presses and releases modifiers: each one arrives as it
 //                                      was asked for, or not at all with a line in the log; nothing stays pressed
-//   orlamo_typing kills COUNT          programs that type are killed: nothing stays pressed
-//   orlamo_typing forever | half       what is killed: at any moment; by itself between key-down and key-up
+//   orlamo_typing kills COUNT          programs that type are killed, at any moment or by themselves between key-down
+//                                      and key-up: nothing stays pressed
 //
 // The layout is whatever the display has. The exit status is 1 when something was wrong, 2 when nothing could be tried.
-#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <xkbcommon/xkbcommon-x11.h>
 
 #include <algorithm>
 #include <atomic>
@@ -74,20 +72,16 @@ private:
 /// What app/main.cpp puts together for typing.
 class Typist {
 public:
-    Typist() : connection_(x11::Connection::open(error_)) {
-        if (!connection_) giveUp(error_);
-        keyboard_.emplace(*connection_);
-        windows_.emplace(*connection_);
-        manager_.emplace(*connection_, *windows_);
-        poster_.emplace(*connection_, *keyboard_, *manager_);
+    void post(const Combination& wanted, bool down) {
+        KeyboardEvent event = CGEventCreateKeyboardEvent(wanted.keyCode, down);
+        CGEventSetFlags(event, wanted.flags);
+        poster_.CGEventPost(EventTapLocation::session, event);
     }
-    void keyDown(const Combination& wanted) { post(wanted, true); }
-    void keyUp(const Combination& wanted) { post(wanted, false); }
     /// The line that says why it is not typed; empty when there is none.
     std::string type(const Combination& wanted) {
         log_.lines.clear();
-        keyDown(wanted);
-        keyUp(wanted);
+        post(wanted, true);
+        post(wanted, false);
         connection_->serverTime();
         for (const std::string& line : log_.lines) {
             if (line.find(" is not posted: ") != std::string::npos) return line;
@@ -96,80 +90,65 @@ public:
     }
 
 private:
-    void post(const Combination& wanted, bool down) {
-        KeyboardEvent event = CGEventCreateKeyboardEvent(wanted.keyCode, down);
-        CGEventSetFlags(event, wanted.flags);
-        poster_->CGEventPost(EventTapLocation::session, event);
+    static std::unique_ptr<x11::Connection> opened() {
+        std::string error;
+        auto connection = x11::Connection::open(error);
+        if (!connection) giveUp(error);
+        return connection;
     }
 
     FakeLog log_;
     FakeRunLoop runLoop_;
-    std::string error_;
-    std::unique_ptr<x11::Connection> connection_;
-    std::optional<x11::CoreKeyboard> keyboard_;
-    std::optional<x11::Windows> windows_;
-    std::optional<x11::WindowManager> manager_;
-    std::optional<x11::EventPoster> poster_;
+    std::unique_ptr<x11::Connection> connection_ = opened();
+    x11::CoreKeyboard keyboard_{*connection_};
+    x11::Windows windows_{*connection_};
+    x11::WindowManager manager_{*connection_, windows_};
+    x11::EventPoster poster_{*connection_, keyboard_, manager_};
 };
 
-/// What keys type with nothing held, asked of the server without a line of the program's own reading of layouts.
+/// What the keys type, asked of the server without a line of the program's own reading of layouts.
 class Legend {
 public:
-    Legend() {
-        xkb_context* const context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
-        const auto device = xkb_x11_get_core_keyboard_device_id(display_.xcb());
-        keymap_ = xkb_x11_keymap_new_from_device(context, display_.xcb(), device, XKB_KEYMAP_COMPILE_NO_FLAGS);
-        xkb_context_unref(context);
-        if (keymap_ == nullptr) giveUp("the X server does not tell its layout");
-    }
-    ~Legend() { xkb_keymap_unref(keymap_); }
-    Legend(const Legend&) = delete;
-    Legend& operator=(const Legend&) = delete;
-
     bool types(std::uint8_t key, const x11::KeyRow& row) const {
         constexpr std::uint8_t besideOne = 49;
         if (row.virtualKeyCode == x11::graveKeyCode && key == besideOne) return true;
-        for (xkb_layout_index_t group = 0; group < xkb_keymap_num_layouts_for_key(keymap_, key); ++group) {
-            const xkb_keysym_t* symbols = nullptr;
-            const int count = xkb_keymap_key_get_syms_by_level(keymap_, key, group, 0, &symbols);
-            if (count == 1 && (symbols[0] == row.keysym || (row.other != 0 && symbols[0] == row.other))) return true;
+        const xcb_keysym_t* const symbols = symbolsOf(key);
+        for (const xcb_keysym_t withNothingHeld : {symbols[0], symbols[2]}) {  // on the first and the second layout
+            if (withNothingHeld != 0 && (withNothingHeld == row.keysym || withNothingHeld == row.other)) return true;
         }
         return false;
     }
 
     /// Whether the server keeps it to itself, as Ctrl+Alt+F1, which switches the console: no program hears of it.
     bool isForServer(const Combination& wanted) const {
-        constexpr xkb_keysym_t first = 0x1008fe00;  // XF86Switch_VT_1 and what follows it
-        constexpr xkb_keysym_t last = 0x1008feff;
-        const auto* const row = x11::keyRow(wanted.keyCode);
-        xkb_state* const state = xkb_state_new(keymap_);
-        bool found = false;
-        for (unsigned key = xkb_keymap_min_keycode(keymap_); key <= xkb_keymap_max_keycode(keymap_); ++key) {
-            if (!types(static_cast<std::uint8_t>(key), *row)) continue;
-            xkb_state_update_mask(state, wanted.state, 0, 0, 0, 0, 0);
-            const xkb_keysym_t symbol = xkb_state_key_get_one_sym(state, key);
-            found = found || (first <= symbol && symbol <= last);
+        constexpr std::uint16_t both = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
+        if ((wanted.state & (both | XCB_MOD_MASK_SHIFT)) != both) return false;
+        const auto isCommand = [](xcb_keysym_t symbol) {
+            return symbol >> 8 == 0x1008fe;
+        };  // XF86Switch_VT_1 and so on
+        for (unsigned key = first; key <= last; ++key) {
+            const xcb_keysym_t* const symbols = symbolsOf(key);
+            if (types(static_cast<std::uint8_t>(key), *x11::keyRow(wanted.keyCode)) &&
+                std::any_of(symbols, symbols + table_->keysyms_per_keycode, isCommand))
+                return true;
         }
-        xkb_state_unref(state);
-        return found;
+        return false;
     }
 
 private:
+    static constexpr unsigned first = 8, last = 255;
+    const xcb_keysym_t* symbolsOf(unsigned key) const {
+        return xcb_get_keyboard_mapping_keysyms(table_.get()) + (key - first) * table_->keysyms_per_keycode;
+    }
+
     Display display_;
-    xkb_keymap* keymap_ = nullptr;
+    x11::Owned<xcb_get_keyboard_mapping_reply_t> table_{xcb_get_keyboard_mapping_reply(
+        display_.xcb(), xcb_get_keyboard_mapping(display_.xcb(), first, last - first + 1), nullptr)};
 };
 
 /// A user who fiddles with the modifiers all the time. Between two actions the lock is free.
 class Fiddler {
 public:
-    Fiddler() : thread_([this] { run(); }) {}
-    ~Fiddler() {
-        ends_ = true;
-        thread_.join();
-    }
-    Fiddler(const Fiddler&) = delete;
-    Fiddler& operator=(const Fiddler&) = delete;
-
     /// Looks at the keyboard while the user does nothing.
     template <class Look>
     auto pausing(Look look) {
@@ -179,9 +158,9 @@ public:
     long actions() const { return actions_; }
 
 private:
-    void run() {
+    void run(const std::stop_token& end) {
         std::mt19937 random(2);
-        while (!ends_) {
+        while (!end.stop_requested()) {
             {
                 const std::lock_guard lock(mutex_);
                 const Keycodes held = keyboard_.held();
@@ -205,9 +184,8 @@ private:
 
     PhysicalKeyboard keyboard_;
     std::mutex mutex_;
-    std::atomic<bool> ends_ = false;
     std::atomic<long> actions_ = 0;
-    std::thread thread_;
+    std::jthread thread_{[this](const std::stop_token& end) { run(end); }};
 };
 
 std::string described(const std::vector<Recorder::Key>& keys) {
@@ -232,10 +210,7 @@ int typeCombinations(int count) {
     const Legend legend;
     Display display;
     Combinations combinations(1);
-    int typed = 0;
-    int refused = 0;
-    int wrong = 0;
-    int stuck = 0;
+    int typed = 0, refused = 0, wrong = 0, stuck = 0;
     long actions = 0;
     {
         Fiddler fiddler;
@@ -267,45 +242,38 @@ int typeCombinations(int count) {
     return wrong + stuck > 0 ? 1 : 0;
 }
 
-/// Says that it has begun, and types until it is killed.
-int typeUntilKilled(bool kills) {
-    Typist typist;
-    Combinations combinations(static_cast<unsigned>(::getpid()));
-    if (::write(STDOUT_FILENO, "+", 1) != 1) return 2;
-    for (;;) {
-        const Combination wanted = combinations.next();
-        typist.keyDown(wanted);
-        if (kills) ::raise(SIGKILL);
-        typist.keyUp(wanted);
-    }
-}
-
-pid_t startVictim(const char* how) {
+/// A program that types until it is killed, or kills itself between key-down and key-up. It has begun.
+pid_t startVictim(bool killsItself) {
     int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0) giveUp("no pipe");
+    if (::pipe(ends) != 0) giveUp("no pipe");
     const pid_t victim = ::fork();
     if (victim == 0) {
-        ::dup2(ends[1], STDOUT_FILENO);
-        ::execl("/proc/self/exe", "orlamo_typing", how, nullptr);
-        ::_exit(2);
+        Typist typist;
+        Combinations combinations(static_cast<unsigned>(::getpid()));
+        if (::write(ends[1], "+", 1) != 1) ::_exit(2);
+        for (;;) {
+            const Combination wanted = combinations.next();
+            typist.post(wanted, true);
+            if (killsItself) ::raise(SIGKILL);
+            typist.post(wanted, false);
+        }
     }
     ::close(ends[1]);
     char sign = 0;
-    const bool begun = ::read(ends[0], &sign, 1) == 1;
+    if (::read(ends[0], &sign, 1) != 1) giveUp("a program that types did not begin");
     ::close(ends[0]);
-    if (!begun) giveUp("a program that types did not begin");
     return victim;
 }
 
-int kill(int count) {
+int killTypists(int count) {
     Display display;
     std::mt19937 random(3);
     int stuck = 0;
-    std::chrono::microseconds longest{0};
+    std::chrono::duration<double, std::milli> longest{0};
     for (int number = 0; number < count; ++number) {
-        const bool between = number % 2 == 0;
-        const pid_t victim = startVictim(between ? "half" : "forever");
-        if (!between) {
+        const bool killsItself = number % 2 == 0;
+        const pid_t victim = startVictim(killsItself);
+        if (!killsItself) {
             std::this_thread::sleep_for(std::chrono::microseconds(random() % 30000));
             ::kill(victim, SIGKILL);
         }
@@ -313,14 +281,13 @@ int kill(int count) {
         const auto end = std::chrono::steady_clock::now();
         while (!display.down().empty() && std::chrono::steady_clock::now() - end < stuckAfter)
             std::this_thread::sleep_for(1ms);
-        longest = std::max(
-            longest, std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - end));
+        longest = std::max(longest, decltype(longest)(std::chrono::steady_clock::now() - end));
         const Keycodes left = display.down();
         if (!left.empty()) ++stuck;
-        for (const std::uint8_t key : left) display.fake(key, false);
+        for (const std::uint8_t key : left) display.release(key);
     }
     std::printf("%d kills: %d times keys stayed pressed; all were up %.1f ms after the longest\n", count, stuck,
-                static_cast<double>(longest.count()) / 1000.0);
+                longest.count());
     return stuck > 0 ? 1 : 0;
 }
 
@@ -329,8 +296,7 @@ int kill(int count) {
 int main(int argc, char** argv) {
     const std::string mode = argc > 1 ? argv[1] : "";
     const int count = argc > 2 ? std::atoi(argv[2]) : 0;
-    if (mode == "forever" || mode == "half") return typeUntilKilled(mode == "half");
     if (mode == "combinations" && count > 0) return typeCombinations(count);
-    if (mode == "kills" && count > 0) return kill(count);
+    if (mode == "kills" && count > 0) return killTypists(count);
     giveUp("usage: orlamo_typing combinations|kills COUNT");
 }
