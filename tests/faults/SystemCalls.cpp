@@ -32,6 +32,14 @@ Function* real(const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
+template <class Buffer>
+ssize_t transfer(const char* name, int file, Buffer* buffer, std::size_t size) {
+    static auto* const call = real<ssize_t(int, Buffer*, std::size_t)>(name);
+    const SystemCalls::Answer answer = ask(name);
+    if (answer.error != 0) errno = answer.error;
+    return answer.error != 0 ? -1 : call(file, buffer, answer.isShort ? 1 : size);
+}
+
 }  // namespace
 
 SystemCalls::SystemCalls(Plan plan) : plan_(std::move(plan)) {
@@ -50,33 +58,26 @@ SystemCalls::Answer SystemCalls::ask(std::string_view name) {
 }
 
 // A name of the program itself comes before that of a library, for the libraries too.
-#define ORLAMO_CALL(name, parameters, arguments)               \
-    extern "C" int name parameters noexcept {                  \
-        static auto* const call = real<int parameters>(#name); \
-        return fails(#name) ? -1 : call arguments;             \
+#define ORLAMO_CALL(Result, name, parameters, arguments, qualifier) \
+    extern "C" Result name parameters qualifier {                   \
+        static auto* const call = real<Result parameters>(#name);   \
+        return fails(#name) ? -1 : call arguments;                  \
     }
 
-ORLAMO_CALL(fchmod, (int file, mode_t mode), (file, mode))
-ORLAMO_CALL(flock, (int file, int how), (file, how))
-ORLAMO_CALL(fstat, (int file, struct stat* status), (file, status))
-ORLAMO_CALL(stat, (const char* path, struct stat* status), (path, status))
-ORLAMO_CALL(lstat, (const char* path, struct stat* status), (path, status))
-ORLAMO_CALL(unlink, (const char* path), (path))
-ORLAMO_CALL(access, (const char* path, int how), (path, how))
-ORLAMO_CALL(mkdir, (const char* path, mode_t mode), (path, mode))
-ORLAMO_CALL(link, (const char* from, const char* to), (from, to))
-ORLAMO_CALL(rename, (const char* from, const char* to), (from, to))
-ORLAMO_CALL(renameat2, (int a, const char* from, int b, const char* to, unsigned how), (a, from, b, to, how))
-
-extern "C" int fsync(int file) {
-    static auto* const call = real<int(int)>("fsync");
-    return fails("fsync") ? -1 : call(file);
-}
-
-extern "C" ssize_t readlink(const char* path, char* target, std::size_t size) noexcept {
-    static auto* const call = real<ssize_t(const char*, char*, std::size_t)>("readlink");
-    return fails("readlink") ? -1 : call(path, target, size);
-}
+ORLAMO_CALL(int, fchmod, (int file, mode_t mode), (file, mode), noexcept)
+ORLAMO_CALL(int, flock, (int file, int how), (file, how), noexcept)
+ORLAMO_CALL(int, fstat, (int file, struct stat* status), (file, status), noexcept)
+ORLAMO_CALL(int, stat, (const char* path, struct stat* status), (path, status), noexcept)
+ORLAMO_CALL(int, lstat, (const char* path, struct stat* status), (path, status), noexcept)
+ORLAMO_CALL(int, unlink, (const char* path), (path), noexcept)
+ORLAMO_CALL(int, access, (const char* path, int how), (path, how), noexcept)
+ORLAMO_CALL(int, mkdir, (const char* path, mode_t mode), (path, mode), noexcept)
+ORLAMO_CALL(int, link, (const char* from, const char* to), (from, to), noexcept)
+ORLAMO_CALL(int, rename, (const char* from, const char* to), (from, to), noexcept)
+ORLAMO_CALL(int, renameat2, (int a, const char* from, int b, const char* to, unsigned how), (a, from, b, to, how),
+            noexcept)
+ORLAMO_CALL(ssize_t, readlink, (const char* path, char* target, std::size_t size), (path, target, size), noexcept)
+ORLAMO_CALL(int, fsync, (int file), (file), )
 
 extern "C" int open(const char* path, int flags, ...) {
     static auto* const call = real<int(const char*, int, ...)>("open");
@@ -97,17 +98,11 @@ extern "C" int close(int file) {
 }
 
 extern "C" ssize_t read(int file, void* buffer, std::size_t size) {
-    static auto* const call = real<ssize_t(int, void*, std::size_t)>("read");
-    const SystemCalls::Answer answer = ask("read");
-    if (answer.error != 0) errno = answer.error;
-    return answer.error != 0 ? -1 : call(file, buffer, answer.isShort ? 1 : size);
+    return transfer("read", file, buffer, size);
 }
 
 extern "C" ssize_t write(int file, const void* buffer, std::size_t size) {
-    static auto* const call = real<ssize_t(int, const void*, std::size_t)>("write");
-    const SystemCalls::Answer answer = ask("write");
-    if (answer.error != 0) errno = answer.error;
-    return answer.error != 0 ? -1 : call(file, buffer, answer.isShort ? 1 : size);
+    return transfer("write", file, buffer, size);
 }
 
 }  // namespace orlamo
