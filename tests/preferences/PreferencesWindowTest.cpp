@@ -79,11 +79,14 @@ TEST_F(PreferencesTest, TheWindowOpensCentredNamesTheVersionAndIsKeptWhenItClose
     files.view("InitialViewController")->disappear();
     EXPECT_EQ(desktop.log.lines.back(), "InitialViewController 即将消失。。。。");
 
-    desktop.bundle.info["CFBundleShortVersionString"] = PropertyList(std::string("1.2.3"));
     files.missing = {"tableView", "scrollView"};
-    InitialViewController withoutTabs;
-    withoutTabs.view();
-    EXPECT_EQ(files.control<FakeTextField>("productVersionTextField").text, "Orlamo 1.2.3");
+    for (const auto& [version, text] : {std::pair(PropertyList(std::string("1.2.3")), "Orlamo 1.2.3"),
+                                        std::pair(PropertyList(std::int64_t{3}), "Orlamo ")}) {
+        desktop.bundle.info["CFBundleShortVersionString"] = version;
+        InitialViewController withoutTabs;
+        withoutTabs.view();
+        EXPECT_EQ(files.control<FakeTextField>("productVersionTextField").text, text);
+    }
 }
 
 TEST_F(PreferencesTest, AWindowWhoseScreenIsGoneComesBackOnTheOneThatIsLeft) {

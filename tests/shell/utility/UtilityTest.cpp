@@ -140,19 +140,8 @@ TEST_F(Trigger, EscapeHidesThePanelAndGoesOnOtherKeysDoNothing) {
 
 TEST_F(Trigger, TheLoginHelperIsNamedAfterTheProgramAndTheOutcomeLogged) {
     utility.setLaunchAtLogin(true);
-    desktop.loginItems.succeeds = false;
-    utility.setLaunchAtLogin(false);
     EXPECT_EQ(desktop.loginItems.requests[0], std::pair(desktop.bundle.identifier + "Helper", true));
     EXPECT_TRUE(desktop.log.contains("Call LoginItemSetEnabled with [true] success"));
-    EXPECT_TRUE(desktop.log.contains("Call LoginItemSetEnabled with [false] failed"));
-}
-
-TEST_F(Trigger, TheVersionIsATextOrNothing) {
-    EXPECT_EQ(utility.appVersion(), "");
-    desktop.bundle.info["CFBundleShortVersionString"] = std::int64_t{3};
-    EXPECT_EQ(utility.appVersion(), "");
-    desktop.bundle.info["CFBundleShortVersionString"] = std::string("1.2");
-    EXPECT_EQ(utility.appVersion(), "1.2");
 }
 
 }  // namespace
