@@ -14,7 +14,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
-#include <map>
 #include <mutex>
 #include <random>
 #include <thread>
@@ -39,35 +38,22 @@ struct Combination {
     std::uint16_t state = 0;  // as an event tells these modifiers
 };
 
-class Combinations {
-public:
-    explicit Combinations(unsigned seed) : random_(seed) {
-        for (std::uint16_t code = 0; code < 128; ++code) {
-            if (x11::keyRow(code) != nullptr) codes_.push_back(code);
-        }
+Combination anyCombination(std::mt19937& random) {
+    constexpr std::pair<std::uint64_t, std::uint16_t> roles[] = {{EventFlags::shift, XCB_MOD_MASK_SHIFT},
+                                                                 {EventFlags::command, XCB_MOD_MASK_CONTROL},
+                                                                 {EventFlags::option, XCB_MOD_MASK_1},
+                                                                 {EventFlags::control, XCB_MOD_MASK_4}};
+    Combination made;
+    do {
+        made.keyCode = static_cast<std::uint16_t>(random() % 128);
+    } while (x11::keyRow(made.keyCode) == nullptr);
+    for (const auto& [flag, state] : roles) {
+        if (random() % 2 == 0) continue;
+        made.flags |= flag;
+        made.state |= state;
     }
-    Combination next() {
-        constexpr struct {
-            std::uint64_t flag;
-            std::uint16_t state;
-        } roles[] = {{EventFlags::shift, XCB_MOD_MASK_SHIFT},
-                     {EventFlags::command, XCB_MOD_MASK_CONTROL},
-                     {EventFlags::option, XCB_MOD_MASK_1},
-                     {EventFlags::control, XCB_MOD_MASK_4}};
-        Combination made{.keyCode = codes_[random_() % codes_.size()]};
-        const auto chosen = random_() % 16;
-        for (unsigned role = 0; role < 4; ++role) {
-            if ((chosen >> role & 1) == 0) continue;
-            made.flags |= roles[role].flag;
-            made.state |= roles[role].state;
-        }
-        return made;
-    }
-
-private:
-    std::mt19937 random_;
-    std::vector<std::uint16_t> codes_;
-};
+    return made;
+}
 
 /// What app/main.cpp puts together for typing.
 class Typist {
@@ -209,14 +195,14 @@ int typeCombinations(int count) {
     Recorder recorder;
     const Legend legend;
     Display display;
-    Combinations combinations(1);
+    std::mt19937 random(1);
     int typed = 0, refused = 0, wrong = 0, stuck = 0;
     long actions = 0;
     {
         Fiddler fiddler;
         for (int number = 0; number < count; ++number) {
-            Combination wanted = combinations.next();
-            while (legend.isForServer(wanted)) wanted = combinations.next();
+            Combination wanted = anyCombination(random);
+            while (legend.isForServer(wanted)) wanted = anyCombination(random);
             const std::string refusal = typist.type(wanted);
             const auto arrived = recorder.take();
             const bool isRight = refusal.empty() ? isAsAsked(arrived, wanted, legend) : arrived.empty();
@@ -225,8 +211,7 @@ int typeCombinations(int count) {
                 std::printf("WRONG: key %d with state %d arrived as%s %s\n", wanted.keyCode, wanted.state,
                             described(arrived).c_str(), refusal.c_str());
             }
-            const bool isClean = fiddler.pausing([&](const Keycodes& held) { return display.down() == held; });
-            if (!isClean) ++stuck;
+            if (!fiddler.pausing([&](const Keycodes& held) { return display.down() == held; })) ++stuck;
         }
         actions = fiddler.actions();
     }
@@ -249,10 +234,10 @@ pid_t startVictim(bool killsItself) {
     const pid_t victim = ::fork();
     if (victim == 0) {
         Typist typist;
-        Combinations combinations(static_cast<unsigned>(::getpid()));
+        std::mt19937 random(static_cast<unsigned>(::getpid()));
         if (::write(ends[1], "+", 1) != 1) ::_exit(2);
         for (;;) {
-            const Combination wanted = combinations.next();
+            const Combination wanted = anyCombination(random);
             typist.post(wanted, true);
             if (killsItself) ::raise(SIGKILL);
             typist.post(wanted, false);
