@@ -1,7 +1,6 @@
 #include "panel/CanvasWindowController.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "core/ShortcutRecords.h"
 #include "core/SystemShortcuts.h"

@@ -1,7 +1,6 @@
 #include "shell/AppDelegate.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "shell/settings/Settings.h"
 #include "shell/utility/Utility.h"

@@ -1,7 +1,6 @@
 #include "shell/utility/Utility.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "panel/CanvasWindowController.h"
 #include "platform/NotificationCenter.h"
