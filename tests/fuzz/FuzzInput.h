@@ -16,14 +16,10 @@ inline void require(bool holds, const char* what) {
     std::abort();
 }
 
-inline std::string_view textOf(const std::uint8_t* data, std::size_t size) {
-    return {reinterpret_cast<const char*>(data), size};
-}
-
 /// Makes choices out of bytes. After the last one every choice is 0, every text empty.
 class FuzzInput {
 public:
-    FuzzInput(const std::uint8_t* data, std::size_t size) : rest_(textOf(data, size)) {}
+    explicit FuzzInput(std::string_view bytes) : rest_(bytes) {}
 
     bool isEmpty() const { return rest_.empty(); }
     std::uint8_t byte() {
@@ -47,7 +43,6 @@ public:
         rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
         return text;
     }
-    std::string_view rest() const { return rest_; }
 
 private:
     std::string_view rest_;

@@ -1,4 +1,4 @@
-// A menu bar on the accessibility bus, through reading and shaping to the shortcuts that are shown.
+// Menus of other programs.
 #include <algorithm>
 #include <array>
 #include <numeric>
@@ -8,17 +8,39 @@
 #include "platform/atspi/Element.h"
 #include "platform/atspi/MenuReader.h"
 #include "platform/atspi/Utf8.h"
-#include "tests/doubles/FakeClock.h"
-#include "tests/doubles/FakeLog.h"
+#include "tests/doubles/FakeDesktop.h"
 #include "tests/doubles/FakeNodeSource.h"
-#include "tests/doubles/FakeWorkspace.h"
 #include "tests/fuzz/FuzzInput.h"
 
-using namespace orlamo;
-using namespace orlamo::atspi;
-using fuzz::require;
+namespace orlamo::fuzz {
+
+using namespace atspi;
 
 namespace {
+
+AXValue makeValue(FuzzInput& input) {
+    const std::size_t kind = input.below(6);
+    if (kind == 0) return input.flag();
+    if (kind == 1) return static_cast<std::int64_t>(input.below(26));
+    if (kind == 2) return static_cast<std::int64_t>(input.number(8));
+    if (kind == 3) return FakeAccessibility::reference(nullptr);
+    return std::string(input.line());
+}
+
+void fill(FakeElement& element, FuzzInput& input, const std::vector<FakeElementPtr>& all) {
+    constexpr std::array attributes{"AXTitle", "AXEnabled", "AXMenuItemCmdModifiers", "AXMenuItemCmdChar",
+                                    "AXMenuItemCmdGlyph"};
+    for (std::size_t children = input.below(8); children > 0; --children) {
+        element.children.push_back(all[input.below(all.size())]);
+    }
+    const auto told = static_cast<unsigned>(input.byte());
+    for (std::size_t i = 0; i < attributes.size(); ++i) {
+        if ((told >> i & 1) != 0) element.with(attributes[i], makeValue(input));
+    }
+    if (input.below(16) == 1) element.reportedCount = static_cast<std::int64_t>(input.number(8));
+    if (input.below(16) == 1) element.countError = AXError::cannotComplete;
+    if (input.below(16) == 1) element.childrenError = AXError::invalidUIElement;
+}
 
 /// Answers from a tree that was read before.
 class ReadAccessibility : public atspi::Accessibility {
@@ -43,7 +65,7 @@ std::string pathOf(std::size_t number) {
     return "/" + std::to_string(number);
 }
 
-FakeNodeSource::Object makeObject(fuzz::FuzzInput& input, std::size_t count) {
+FakeNodeSource::Object makeObject(FuzzInput& input, std::size_t count) {
     constexpr std::array roles{ObjectRole::menuItem,  ObjectRole::menu,         ObjectRole::popupMenu,
                                ObjectRole::separator, ObjectRole::menuBar,      ObjectRole::tearOffMenuItem,
                                ObjectRole::unknown,   ObjectRole::checkMenuItem};
@@ -70,10 +92,41 @@ void check(const MenuTree& tree) {
     }
 }
 
+std::vector<MenuEntry> harvested() {
+    menuItemKeyCodes.clear();
+    auto entries = harvestMenuShortcuts();
+    describe(entries);
+    require(menuItemTitles.size() == menuItemElements.size(), "each title has its element");
+    return entries;
+}
+
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    fuzz::FuzzInput input(data, size);
+/// Menus that lie to the walk over them: cycles, wrong counts, wrong types, errors.
+void menu_lies(std::string_view bytes) {
+    FuzzInput input(bytes);
+    FakeDesktop desktop;
+    desktop.openEditor({});
+    std::vector<FakeElementPtr> all(1 + input.below(64));
+    for (FakeElementPtr& element : all) element = FakeAccessibility::element();
+    for (const FakeElementPtr& element : all) fill(*element, input, all);
+    auto& menus = desktop.accessibility.setMenuBar(FakeDesktop::editorProcess, {})->children;
+    menus = all.front()->children;
+    if (menus.size() > 3) menus.resize(3);  // each takes up to a thousand visits
+
+    const auto entries = harvested();
+    require(entries.size() <= menus.size() * 3000 + 1, "a menu has so many visits");
+    for (std::size_t i = 0; i < menuItemElements.size(); ++i) {
+        const auto element = FakeAccessibility::nodeOf(menuItemElements[i]);
+        require(element->attributes["AXTitle"] == AXValue(menuItemTitles[i]), "an element is that of its title");
+    }
+    require(desktop.accessibility.presses.empty(), "reading presses nothing");
+    for (const FakeElementPtr& element : all) element->children.clear();  // else cycles keep each other
+}
+
+/// A menu bar on the accessibility bus, through reading and shaping to the shortcuts that are shown.
+void menus(std::string_view bytes) {
+    FuzzInput input(bytes);
     FakeNodeSource source;
     const std::size_t count = 1 + input.byte();
     const bool isCached = input.flag();
@@ -102,16 +155,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     MenuTree tree = shapeMenus(raw, {FakeNodeSource::ref("/root"), "Editor"}, session);
     check(tree);
 
-    const FakeLog log;
-    FakeClock clock;
-    FakeWorkspace workspace;
-    workspace.frontmost = RunningApplication{42, "org.example.editor", "Editor"};
+    FakeDesktop desktop;
+    desktop.openEditor({});
     ReadAccessibility accessibility(std::move(tree));
-    menuItemKeyCodes.clear();
-    const auto entries = harvestMenuShortcuts();
-    describe(entries);
+    const auto entries = harvested();
     require(!entries.empty() && entries.back() == MenuEntry("Editor"), "the application's name stands last");
-    require(menuItemTitles.size() == menuItemElements.size(), "each title has its element");
     std::size_t place = 0;
     for (const MenuEntry& entry : entries) {
         const auto* const record = std::get_if<MenuItemRecord>(&entry);
@@ -125,5 +173,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(isPressable && element.node().children.empty(), "what is shown can be pressed");
     }
     require(place == menuItemElements.size(), "there is a record for each element");
-    return 0;
 }
+
+}  // namespace orlamo::fuzz

@@ -9,28 +9,20 @@
 #include "tests/doubles/RecordingGraphicsContext.h"
 #include "tests/fuzz/FuzzInput.h"
 
-using namespace orlamo;
-using fuzz::require;
-
+namespace orlamo::fuzz {
 namespace {
 
-std::optional<std::string> makeText(fuzz::FuzzInput& input) {
-    constexpr std::array usual{"",          "space",
-                               "⌘",         "⇧⌘",
-                               "fn",        "K",
-                               "SPACE",     "Edit",
-                               "Edit/Find", "Keyboard//Move//On",
-                               "100",       "A rather long title that no column has the place for"};
+std::optional<std::string> makeText(FuzzInput& input) {
+    constexpr const char* longTitle = "A rather long title that no column has the place for";
+    constexpr std::array usual{
+        "", "space", "⌘", "⇧⌘", "fn", "K", "SPACE", "Edit", "Edit/Find", "Keyboard//Move//On", "100", longTitle};
     const std::size_t choice = input.below(usual.size() + 2);
     if (choice < usual.size()) return usual[choice];
     return choice == usual.size() ? std::nullopt : std::optional(std::string(input.line()));
 }
 
-void addApplicationEntry(fuzz::FuzzInput& input) {
-    if (input.below(4) == 1) {
-        appMenuItems.emplace_back(makeText(input).value_or(""));
-        return;
-    }
+void addApplicationEntry(FuzzInput& input) {
+    if (input.below(4) == 1) return void(appMenuItems.emplace_back(makeText(input).value_or("")));
     const std::string title = makeText(input).value_or("Item");
     const auto path = input.below(8) == 1 ? makeText(input) : "File";
     appMenuItems.emplace_back(MenuItemRecord{path, title, makeText(input), makeText(input), makeText(input)});
@@ -40,11 +32,8 @@ void addApplicationEntry(fuzz::FuzzInput& input) {
     menuItemElements.push_back(FakeAccessibility::reference(FakeAccessibility::item(title, "K")));
 }
 
-void addSystemEntry(fuzz::FuzzInput& input) {
-    if (input.below(4) == 1) {
-        systemShortcutList.emplace_back(makeText(input).value_or(""));
-        return;
-    }
+void addSystemEntry(FuzzInput& input) {
+    if (input.below(4) == 1) return void(systemShortcutList.emplace_back(makeText(input).value_or("")));
     systemShortcutList.emplace_back(SystemShortcutRecord{makeText(input), makeText(input), makeText(input)});
     if (input.below(16) == 1) return;
     systemKeyCombos.push_back(
@@ -85,8 +74,8 @@ void check(const CanvasView& view) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    fuzz::FuzzInput input(data, size);
+void panel(std::string_view bytes) {
+    FuzzInput input(bytes);
     FakeDesktop desktop;
     desktop.defaults.values["isContainsAppleMenu"] = input.flag();
     desktop.accessibility.sessionMenu = input.flag();
@@ -129,5 +118,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(desktop.poster.posted.empty(), "an application's cell types nothing");
     }
     desktop.runLoop.advance(1);
-    return 0;
 }
+
+}  // namespace orlamo::fuzz

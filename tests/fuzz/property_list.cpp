@@ -4,15 +4,10 @@
 #include "core/KeyManager.h"
 #include "core/SystemShortcuts.h"
 #include "platform/plist/LibplistParser.h"
-#include "tests/doubles/FakeBundle.h"
-#include "tests/doubles/FakeLog.h"
-#include "tests/doubles/FakePropertyListParser.h"
-#include "tests/doubles/FakeSystemPreferences.h"
+#include "tests/doubles/FakeDesktop.h"
 #include "tests/fuzz/FuzzInput.h"
 
-using namespace orlamo;
-using fuzz::require;
-
+namespace orlamo::fuzz {
 namespace {
 
 std::size_t levels(const PropertyList& list) {
@@ -27,20 +22,18 @@ std::size_t levels(const PropertyList& list) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto [value, error] = plist::LibplistParser().propertyListWithData({data, size});
+void property_list(std::string_view bytes) {
+    const auto* const data = reinterpret_cast<const std::uint8_t*>(bytes.data());
+    const auto [value, error] = plist::LibplistParser().propertyListWithData({data, bytes.size()});
     require(error.empty() || value == PropertyList(), "what is refused has no value");
     require(levels(value) <= 64, "no more than 64 levels");
     value.description();
 
-    const FakeLog log;
-    FakeBundle bundle;
-    FakePropertyListParser parser;
-    FakeSystemPreferences preferences;
-    bundle.resources["com.apple.symbolichotkeys.plist"] = "/dev/null";
-    parser.result.value = value;
+    FakeDesktop desktop;
+    desktop.bundle.resources["com.apple.symbolichotkeys.plist"] = "/dev/null";
+    desktop.parser.result.value = value;
     const PropertyList* const keys = value.at("AppleSymbolicHotKeys");
-    preferences.setHotKeys(keys != nullptr ? *keys : value);
+    desktop.preferences.setHotKeys(keys != nullptr ? *keys : value);
     const auto entries = loadSystemShortcuts();
     describe(entries);
     const auto isRecord = [](const SystemShortcutEntry& entry) { return entry.index() == 1; };
@@ -49,5 +42,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const SystemKeyCombo& combo : systemKeyCombos) {
         require(KeyManager::shared().keyTextForKeyCode(combo.keycode) != "??", "a key that is shown has a name");
     }
-    return 0;
 }
+
+}  // namespace orlamo::fuzz

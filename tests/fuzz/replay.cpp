@@ -1,12 +1,13 @@
 // Feeds the files of folders to a fuzz target, without a fuzzer: replay FOLDER...
-#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <vector>
+#include <string>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+namespace orlamo::fuzz {
+void ORLAMO_FUZZ_TARGET(std::string_view bytes);
+}
 
 int main(int count, char** words) {
     int files = 0;
@@ -15,8 +16,7 @@ int main(int count, char** words) {
             std::printf("%s\n", entry.path().c_str());  // the last line names the one that ended the program
             std::fflush(stdout);
             std::ifstream file(entry.path(), std::ios::binary);
-            const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
-            LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+            orlamo::fuzz::ORLAMO_FUZZ_TARGET(std::string(std::istreambuf_iterator<char>(file), {}));
             ++files;
         }
     }
