@@ -164,12 +164,14 @@ void menus(std::string_view bytes) {
     for (const MenuEntry& entry : entries) {
         const auto* const record = std::get_if<MenuItemRecord>(&entry);
         if (record == nullptr) continue;
-        require(record->title == cleanName(*record->title) && !record->title->empty(), "an item has a clean name");
         require(place < menuItemElements.size() && menuItemTitles[place] == record->title, "titles are in order");
         const auto& element = dynamic_cast<const MenuElement&>(*menuItemElements[place++]);
         require(element.node().title == record->title, "an element is that of its record");
-        const bool isPressable =
-            element.node().kind == MenuNode::Kind::item || element.node().kind == MenuNode::Kind::sessionItem;
+        const bool isOfSession = element.node().kind == MenuNode::Kind::sessionItem;
+        const bool isPressable = isOfSession || element.node().kind == MenuNode::Kind::item;
+        const std::string clean = cleanName(*record->title);  // that of the session is marked beside a namesake
+        require(isOfSession ? record->title->starts_with(clean) : record->title == clean, "an item has a clean name");
+        require(!clean.empty(), "an item has a name");
         require(isPressable && element.node().children.empty(), "what is shown can be pressed");
     }
     require(place == menuItemElements.size(), "there is a record for each element");
