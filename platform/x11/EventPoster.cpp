@@ -2,8 +2,8 @@
 
 #include <xcb/xtest.h>
 
+#include <algorithm>
 #include <optional>
-#include <ranges>
 #include <utility>
 
 #include "platform/Log.h"
@@ -60,7 +60,7 @@ void EventPoster::type(const KeyboardEvent& event) {
     for (const std::uint8_t modifier : modifiers) fakeKey(XCB_KEY_PRESS, modifier);
     fakeKey(XCB_KEY_PRESS, key);
     fakeKey(XCB_KEY_RELEASE, key);
-    for (const std::uint8_t modifier : modifiers | std::views::reverse) fakeKey(XCB_KEY_RELEASE, modifier);
+    std::for_each(modifiers.rbegin(), modifiers.rend(), [this](auto modifier) { fakeKey(XCB_KEY_RELEASE, modifier); });
     grab.reset();
     connection_.reply(xcb_get_input_focus_reply, xcb_get_input_focus(connection_.xcb()));  // it has been done
 }
