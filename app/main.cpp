@@ -7,6 +7,7 @@
 #include <span>
 
 #include "app/CommandLine.h"
+#include "app/EndSignal.h"
 #include "app/ProcessPrivacy.h"
 #include "app/SessionMenus.h"
 #include "platform/appcast/UpdaterController.h"
@@ -192,6 +193,7 @@ int main(int argc, char** argv) {
     activation.answerWaiting();
     AppDelegate delegate;
     program.delegate = &delegate;
+    const EndSignal endSignal([&program] { program.terminate(); });
     delegate.applicationWillFinishLaunching();
     activation.answerWaiting();
     delegate.applicationDidFinishLaunching();

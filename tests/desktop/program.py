@@ -67,7 +67,7 @@ class Program:
     def start(self, environment=None, keeps_preferences=False):
         with tempfile.NamedTemporaryFile(dir=self.session.folder, suffix=".log", delete=False) as output:
             self.log = Log(self.session.folder / output.name)
-            self.process = self.session.start([self.path], output, environment)
+            self.process = self.session.start([self.path], output, environment, ends_in_order=True)
         self.pid = self.process.pid
         wait_until(self.is_ready, PATIENCE, "start of the program")
         if not keeps_preferences:

@@ -2,6 +2,7 @@
 import ctypes
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -12,6 +13,8 @@ import accessible
 from screen import Screen, wait_until
 
 PATIENCE = 20  # seconds for a program to come up on a busy machine
+REPORT = re.compile(r"==\d+== ?(ERROR: )?\w+Sanitizer|^\S+:\d+:\d+: runtime error: ", re.M)  # of a sanitizer
+LONGEST_REPORT = 8000  # characters
 
 OPENBOX = """<?xml version="1.0" encoding="UTF-8"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
@@ -44,7 +47,8 @@ def end_with_the_test():
 
 
 class DesktopSession:
-    """Starts in __enter__, ends everything it started in __exit__, and nothing else."""
+    """Starts in __enter__, ends everything it started in __exit__, and nothing else. There it also fails for whatever a
+    sanitizer reported, and for a process that should have ended in order and did not."""
 
     def __init__(self, size="1440x900x24", keys=None, server=(), config=None, shipped_keys=False,
                  window_manager=None, compositor=None):
@@ -61,6 +65,8 @@ class DesktopSession:
         self._window_manager = window_manager or os.environ.get("ORLAMO_WINDOW_MANAGER", "openbox")
         self._compositor = bool(os.environ.get("ORLAMO_COMPOSITOR")) if compositor is None else compositor
         self._started = []
+        self._end_in_order = []
+        self._complaints = []
         self.screen = self.session_bus = self.accessibility_bus = None
 
     def __enter__(self):
@@ -80,7 +86,16 @@ class DesktopSession:
             self.screen.close()
         for process in reversed(self._started):
             self.stop(process)
+        self._look_for_reports()
         shutil.rmtree(self.folder, ignore_errors=True)
+        if self._complaints:
+            raise AssertionError("\n".join(self._complaints))
+
+    def _look_for_reports(self):
+        for log in self.folder.glob("*.log"):
+            text = log.read_text(errors="replace")
+            if report := REPORT.search(text):
+                self._complaints.append(text[report.start():][:LONGEST_REPORT])
 
     def _prepare_folders(self):
         keep = {name: os.environ[name]
@@ -161,16 +176,21 @@ class DesktopSession:
         return compositor
 
     # Processes.
-    def start(self, words, output=subprocess.DEVNULL, environment=None, pass_fds=()):
-        """A process in a group of its own; it ends with the session."""
-        process = subprocess.Popen(words, env={**self.environment, **(environment or {})}, cwd=self.folder,
-                                   stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
-                                   start_new_session=True, pass_fds=pass_fds, preexec_fn=end_with_the_test)
+    def start(self, words, output=None, environment=None, pass_fds=(), ends_in_order=False):
+        """A process in a group of its own; it ends with the session. With `ends_in_order` it must do so by itself when
+        it is asked to: only then has it given back all it had, and a sanitizer looked for what it did not."""
+        with open(self.folder / "others.log", "ab") as common:
+            process = subprocess.Popen(words, env={**self.environment, **(environment or {})}, cwd=self.folder,
+                                       stdin=subprocess.DEVNULL, stdout=output or common, stderr=subprocess.STDOUT,
+                                       start_new_session=True, pass_fds=pass_fds, preexec_fn=end_with_the_test)
         self._started.append(process)
+        if ends_in_order:
+            self._end_in_order.append(process)
         return process
 
     def stop(self, process, how=signal.SIGTERM):
         """Ends the process with its group and waits for it."""
+        in_order = how == signal.SIGTERM and process in self._end_in_order and process.poll() is None
         for number in (how, signal.SIGKILL):
             try:
                 os.killpg(process.pid, number)
@@ -178,10 +198,12 @@ class DesktopSession:
             except ProcessLookupError:
                 pass
             try:
-                process.wait(3)
+                process.wait(PATIENCE if in_order else 3)
                 break
             except subprocess.TimeoutExpired:
                 continue
+        if in_order and process.returncode != 0:
+            self._complaints.append(f"{process.args} was asked to end and did so with {process.returncode}")
         if process in self._started:
             self._started.remove(process)
 
