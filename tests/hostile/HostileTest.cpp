@@ -14,6 +14,10 @@
 #include <cstdlib>
 #include <fstream>
 
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
 #include "Peer.h"
 #include "platform/atspi/Accessibility.h"
 #include "tests/doubles/FakeLog.h"
@@ -76,6 +80,9 @@ pid_t start(Work work) {
     if (process != 0) return process;
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     work();
+#ifdef __SANITIZE_ADDRESS__
+    __lsan_do_leak_check();  // an end by _exit does without
+#endif
     _exit(0);
 }
 
