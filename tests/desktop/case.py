@@ -11,6 +11,7 @@ from session import DesktopSession
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PROGRAM = os.environ.get("ORLAMO_PROGRAM", str(ROOT / "build/release/orlamo"))
 PEER = os.environ.get("ORLAMO_HOSTILE_PEER", str(pathlib.Path(PROGRAM).with_name("orlamo_hostile_peer")))
+SLOWNESS = 8 if "ASAN_OPTIONS" in os.environ else 1  # what a sanitizer costs where a test asks for a time
 EVIDENCE = pathlib.Path(os.environ.get("ORLAMO_EVIDENCE", ROOT / "build/desktop-tests"))
 
 

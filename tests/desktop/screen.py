@@ -212,7 +212,8 @@ class Screen:
             return
         for child in children:
             try:
-                if child.get_attributes().map_state == X.IsViewable:
+                attributes = child.get_attributes()
+                if attributes.map_state == X.IsViewable and attributes.win_class != X.InputOnly:
                     yield child
             except (error.BadWindow, error.BadDrawable):
                 continue

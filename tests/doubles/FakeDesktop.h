@@ -27,6 +27,10 @@ namespace orlamo {
 
 class FakeApplication : public Application {
 public:
+    FakeApplication() {
+        static ApplicationDelegate anybody;  // Utility::shared() keeps it
+        delegate = &anybody;
+    }
     void activate(IgnoringOtherApps ignoring) override { activations.push_back(ignoring); }
     void setActivationPolicy(ActivationPolicy policy) override { policies.push_back(policy); }
     void terminate() override { ++terminations; }

