@@ -201,9 +201,11 @@ TEST_P(HostileApplication, IsAnsweredWithinASecondAndNeverMakesAWrongPress) {
     EXPECT_LE(outcome.read, longestAnswer);
     EXPECT_LE(outcome.press, longestAnswer);
     EXPECT_LE(outcome.growth, mostGrowth);
+    EXPECT_LE(outcome.presses.count, 1);
+    EXPECT_STREQ(outcome.presses.last, outcome.presses.count > 0 ? "Copy" : "");
     constexpr int wholeItems = 12;
     const bool isRead = outcome.readError == AXError::success && outcome.items > 0;
-#ifdef __SANITIZE_ADDRESS__  // what is larger than life does not get done within the program's own time limits
+#ifdef __SANITIZE_ADDRESS__  // under it not everything gets done within the program's own time limits
     if (outcome.readError == AXError::cannotComplete) return;
 #endif
     const Read read = !isRead ? Read::none : outcome.items == wholeItems ? Read::whole : Read::part;
@@ -214,8 +216,6 @@ TEST_P(HostileApplication, IsAnsweredWithinASecondAndNeverMakesAWrongPress) {
         EXPECT_EQ(outcome.pressError == AXError::success, behaviour.press == Press::done)
             << static_cast<int>(outcome.pressError);
     }
-    EXPECT_LE(outcome.presses.count, 1);
-    EXPECT_STREQ(outcome.presses.last, outcome.presses.count > 0 ? "Copy" : "");
 }
 
 INSTANTIATE_TEST_SUITE_P(That, HostileApplication, ::testing::ValuesIn(behaviours()), [](const auto& row) {
