@@ -44,6 +44,10 @@ auto keptAlive(RunLoop::Task task) {
 
 }  // namespace
 
+QtRunLoop::~QtRunLoop() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 void QtRunLoop::asyncAfter(double seconds, Task task) {
     QTimer::singleShot(toMilliseconds(seconds), Qt::PreciseTimer, QCoreApplication::instance(),
                        keptAlive(std::move(task)));

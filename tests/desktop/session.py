@@ -46,6 +46,18 @@ def end_with_the_test():
     LIBC.prctl(PR_SET_PDEATHSIG, signal.SIGKILL)
 
 
+def waiting_threads(pid):
+    """The name of each thread, where in the kernel it waits, and in which system call."""
+    def read(file):
+        try:
+            return file.read_text().strip()
+        except OSError:
+            return "?"
+
+    return [" ".join(read(task / name) for name in ("comm", "wchan", "syscall"))
+            for task in pathlib.Path(f"/proc/{pid}/task").iterdir()]
+
+
 class DesktopSession:
     """Starts in __enter__, ends everything it started in __exit__, and nothing else. There it also fails for whatever a
     sanitizer reported, and for a process that should have ended in order and did not."""
@@ -201,6 +213,8 @@ class DesktopSession:
                 process.wait(PATIENCE if in_order else 3)
                 break
             except subprocess.TimeoutExpired:
+                if in_order:
+                    self._complaints.append(f"{process.args} does not end; its threads: {waiting_threads(process.pid)}")
                 continue
         if in_order and process.returncode != 0:
             self._complaints.append(f"{process.args} was asked to end and did so with {process.returncode}")
