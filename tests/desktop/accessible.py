@@ -136,3 +136,9 @@ class AccessibleApplication:
         found = self._find(TEXT, 14)
         answer = found and call(self.bus, *found, "org.a11y.atspi.Text", "GetText", GLib.Variant("(ii)", (0, -1)))
         return answer[0] if answer else None
+
+    def has_selection(self):
+        """Whether something is selected in that field."""
+        found = self._find(TEXT, 14)
+        answer = found and call(self.bus, *found, "org.a11y.atspi.Text", "GetNSelections")
+        return bool(answer and answer[0])

@@ -111,6 +111,7 @@ class Layouts(DesktopTest):
         self.open_panel()
         self.click(places["Select All"])
         wait_until(self.editor.is_in_front, 5, "editor in front")
+        wait_until(self.editor.accessible().has_selection, 5, "selected text")
         self.screen.tap(self.screen.BACKSPACE)
         wait_until(lambda: self.editor.text() == "", 5, "end of the selected text")
 
