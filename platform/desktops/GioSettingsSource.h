@@ -7,7 +7,7 @@
 namespace orlamo::desktops {
 
 /// Reads GSettings, and xfconf and KGlobalAccel over the session bus, and files. Starts no service, and waits for the
-/// bus 150 ms in all between one refresh() and the next. What cannot be read is absent, with a line in the log.
+/// bus 250 ms in all between one refresh() and the next. What cannot be read is absent, with a line in the log.
 class GioSettingsSource final : public SettingsSource {
 public:
     GioSettingsSource();

@@ -14,8 +14,6 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr milliseconds budget{150};
-
 // Without this check GLib would start a bus of its own.
 bool isThereABus() {
     if (std::getenv("DBUS_SESSION_BUS_ADDRESS") != nullptr) return true;
@@ -58,12 +56,13 @@ gboolean setTrue(gpointer flag) {
 
 }  // namespace
 
-SessionBus::SessionBus(GMainContext* context) : context_(context), deadline_(steady_clock::now() + budget) {}
+SessionBus::SessionBus(GMainContext* context, milliseconds budget)
+    : context_(context), budget_(budget), deadline_(steady_clock::now() + budget) {}
 
 SessionBus::~SessionBus() = default;
 
 void SessionBus::restartClock() {
-    deadline_ = steady_clock::now() + budget;
+    deadline_ = steady_clock::now() + budget_;
     hasFailed_ = false;
     hasRunOut_ = false;
 }

@@ -10,8 +10,8 @@ namespace orlamo::desktops {
 /// Calls over the session bus that together take no longer than a stretch of time.
 class SessionBus {
 public:
-    /// Callbacks of the connecting run in `context`.
-    explicit SessionBus(GMainContext* context);
+    /// Callbacks of the connecting run in `context`. `budget` is each stretch of time.
+    SessionBus(GMainContext* context, std::chrono::milliseconds budget);
     ~SessionBus();
 
     /// A new stretch of time begins.
@@ -31,6 +31,7 @@ private:
     std::chrono::milliseconds timeLeft() const;
 
     GMainContext* context_;
+    std::chrono::milliseconds budget_;
     Owned<GDBusConnection> connection_;
     std::chrono::steady_clock::time_point deadline_;
     bool hasFailed_ = false;  // to connect

@@ -21,7 +21,7 @@ bool switchOnToolkitAccessibility() {
     // The settings are written over the connection that this one shares, and after this call; if they opened it
     // themselves, the end of the bus would end the program.
     static const Owned<GMainContext> context(g_main_context_new());
-    static SessionBus bus(context.get());
+    static SessionBus bus(context.get(), std::chrono::milliseconds(150));
     bus.restartClock();
     bus.connect();
     const ContextScope scope(context.get());
