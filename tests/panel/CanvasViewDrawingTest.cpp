@@ -94,7 +94,7 @@ TEST_F(CanvasViewDrawing, ABarIsFiveArcsClockwiseAndTheSystemsKeepsItsWidthTurne
 TEST_F(CanvasViewDrawing, AMenuHeadingIsABarAndASubmenuHeadingATriangle) {
     desktop.bundle.strings["Find"] = "Suchen";
     addHeading("Edit");
-    addHeading("Edit/Find");
+    addHeading("Edit/Find/Again");
     addItem("Next");
     open();
     const double y = view->currentShortM.at(0).rect.y;
