@@ -104,10 +104,21 @@ class Preferences(DesktopTest):
         self.assertNotIn("doubleModifierKey", {key: value for key, value in self.program.settings().items()
                                                if value != "Command"})
 
-    def test_the_help_opens_beside_its_button_and_closes_with_escape(self):
+    def test_the_help_opens_beside_its_button_and_closes_with_escape_or_a_click_elsewhere(self):
         self.tab_to(TEXTS["settings.help"])
-        self.screen.tap("space")
-        wait_until(lambda: self.screen.unmanaged_windows_of(self.program.pid), 5, "help")
-        self.screen.tap(self.screen.ESCAPE)
-        wait_until(lambda: not self.screen.unmanaged_windows_of(self.program.pid), 5, "end of the help")
+        for close in (lambda: self.screen.tap(self.screen.ESCAPE), self.click_beside_the_help):
+            self.screen.tap("space")
+            shown, = wait_until(lambda: self.screen.unmanaged_windows_of(self.program.pid), 5, "help")
+            self.help = self.screen.geometry_of(shown)
+            close()
+            wait_until(lambda: not self.screen.unmanaged_windows_of(self.program.pid), 5, "end of the help")
+            wait_until(lambda: self.screen.keyboard_pid() == self.program.pid, 5, "keyboard in the preferences")
         self.assertIsNotNone(self.program.preferences())
+
+    def click_beside_the_help(self):
+        """Inside it nothing happens."""
+        x, y, width, height = self.help
+        self.screen.click(x + width // 2, y + height // 2)
+        self.settle()
+        self.assertTrue(self.screen.unmanaged_windows_of(self.program.pid))
+        self.screen.click(x + width + 20, y + height // 2)

@@ -151,39 +151,6 @@ TEST_F(MenuReading, AtNoMomentDoesTheDeadlineMakeAMnemonicAShortcutOrAnItemNamel
     }
 }
 
-TEST_F(MenuReading, ATreeThatHoldsItselfIsReadOnce) {
-    source.objects = {{"bar", Object{{"bar", "a"}, "", ObjectRole::menuBar}},
-                      {"a", Object{{"a", "b", "bar", "b"}, "A"}},
-                      {"b", Object{{"a"}, "B", ObjectRole::menuItem, usable, "Ctrl+B"}}};
-    EXPECT_EQ(text(shape()), "?[? Editor A[:[B(0B)]]]");
-}
-
-TEST_F(MenuReading, ATreeWithoutEndEndsAtTheLimits) {
-    std::vector<ObjectRef> million;
-    for (int i = 0; i < 1'000'000; ++i) million.push_back(ref(std::to_string(i)));
-    const auto deep = [](const ObjectRef& object) { return std::vector{ref(object.path + "x")}; };
-    const auto broad = [&](const ObjectRef& object) {
-        return object.path == "bar" ? million : std::vector<ObjectRef>{};
-    };
-    for (const std::size_t elements : {std::size_t{ReadLimits{}.depth + 1}, ReadLimits{}.elements}) {
-        source.lie = elements == ReadLimits{}.elements ? FakeNodeSource::Lie(broad) : deep;
-        const RawTree raw = read();
-        EXPECT_EQ(raw.nodes.size(), elements);
-        EXPECT_FALSE(raw.isComplete);
-    }
-}
-
-TEST_F(MenuReading, LongTextsAreCutOrDropped) {
-    const std::string megabyte(1'000'000, 'x');
-    setBar({holding(megabyte, {item(megabyte, "Ctrl+B"), item("C", megabyte)})});
-    source.objects["bar/0"].children.push_back(megabyte);
-    const RawTree raw = read();
-    EXPECT_EQ(raw.nodes.size(), 4U);
-    EXPECT_EQ(raw.nodes[1].name->size(), 1024U);
-    EXPECT_EQ(raw.nodes[2].name->size(), 1024U);
-    EXPECT_TRUE(raw.nodes[3].keyBinding.empty());
-}
-
 TEST_F(MenuReading, TheMenuBarOfTheFirstWindowThatHasOneIsFoundWithoutEnteringDocuments) {
     const Tree bar = holding("", {}, ObjectRole::menuBar);
     set("dialog", holding("", {holding("", {})}, ObjectRole::dialog));

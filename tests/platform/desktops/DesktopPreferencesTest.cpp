@@ -98,29 +98,6 @@ TEST_F(DesktopPreferencesTest, LeaveOutWhatTheGnomeShellDoesWhenAnotherShellRuns
     EXPECT_EQ(entry("Budgie:GNOME", "36"), "on [100, 2, 262144]");
 }
 
-TEST_F(DesktopPreferencesTest, OfMateTakeTheSecondActionWhenTheFirstIsDisabled) {
-    source->settings["org.mate.Marco.global-keybindings switch-windows"] = {"disabled"};
-    source->settings["org.mate.Marco.global-keybindings cycle-windows"] = {"<Alt>Escape"};
-    source->settings["org.mate.Marco.global-keybindings switch-to-workspace-1"] = {"disabled"};
-    EXPECT_EQ(entry("MATE", "9"), "on [27, 53, 524288]");
-    EXPECT_EQ(entry("MATE", "118"), off);
-}
-
-TEST_F(DesktopPreferencesTest, OfXfceFollowTheOverrideOfEachHalf) {
-    source->xfconf = {{"/xfwm4/default/<Primary><Alt>d", "show_desktop_key"},
-                      {"/xfwm4/custom/<Super>d", "show_desktop_key"},
-                      {"/commands/default/<Alt><Super>s", "orca"},
-                      {"/commands/custom/<Super>o", "orca"},
-                      {"/commands/custom/override", "true"}};
-    EXPECT_EQ(entry("XFCE", "36"), "on [100, 2, 1572864]");
-    EXPECT_EQ(entry("XFCE", "59"), "on [111, 31, 262144]");
-    EXPECT_EQ(entry("XFCE", "79"), off);
-    (*source->xfconf)["/xfwm4/custom/override"] = "true";
-    (*source->xfconf)["/commands/custom/override"] = "false";
-    EXPECT_EQ(entry("XFCE", "36"), "on [100, 2, 262144]");
-    EXPECT_EQ(entry("XFCE", "59"), "on [115, 1, 786432]");
-}
-
 TEST_F(DesktopPreferencesTest, OfXfceTellCommandsApartByTheirOptions) {
     const std::vector<std::tuple<std::string, std::string, std::string>> cases = {
         {"xfce4-screenshooter -r", "30", "on"},
@@ -140,36 +117,6 @@ TEST_F(DesktopPreferencesTest, OfXfceTellCommandsApartByTheirOptions) {
                           {"/commands/default/<Super>r/startup-notify", "true"}};
         EXPECT_EQ(entry("XFCE", id).substr(0, state.size()), state) << command << " " << id;
     }
-}
-
-TEST_F(DesktopPreferencesTest, OfKdeReadTheKeysOfComponentAndAction) {
-    source->kde = {{"kwin", "Show Desktop", {0x10000044}},
-                   {"kwin", "view_zoom_in", {0x1000002b, 0x1000003d}},
-                   {"kwin", "Overview", {}},
-                   {"kwin", "ExposeAll", {0x05000039}},
-                   {"kwin", "Invert", {}},
-                   {"plasmashell", "Show Desktop", {0x10000045}},
-                   {"org.kde.krunner.desktop", "_launch", {0x01000092, 0x08000020}}};
-    EXPECT_EQ(entry("KDE", "36"), "on [100, 2, 262144]");
-    EXPECT_EQ(entry("KDE", "17"), "on [61, 24, 262144]");
-    EXPECT_EQ(entry("KDE", "32"), "on [65535, 109, 1048576]");
-    EXPECT_EQ(entry("KDE", "21"), off);
-    EXPECT_EQ(entry("KDE", "64"), "on [32, 49, 524288]");
-    EXPECT_EQ(entry("KDE", "19"), "missing");
-}
-
-TEST_F(DesktopPreferencesTest, OfKdeTellTheLauncherByTheNumberOfItsApplet) {
-    source->kde = {{"plasmashell", "activate widget 5", {0x10000045}},
-                   {"plasmashell", "activate widget 3", {0x09000030}},
-                   {"kwin", "activate widget 3", {0x10000046}}};
-    const std::string clock = "[Containments][2][Applets][5]\nplugin=org.kde.plasma.digitalclock\n";
-    EXPECT_EQ(entry("KDE", "160"), "missing");
-    source->files["plasma-org.kde.plasma.desktop-appletsrc"] =
-        clock + "[Containments][2][Applets][3]\nimmutability=1\nplugin=org.kde.plasma.kickoff\n";
-    EXPECT_EQ(entry("KDE", "160"), "on [65535, 122, 524288]");
-    source->files["plasma-org.kde.plasma.desktop-appletsrc"] =
-        clock + "[Containments][2][Applets][3][Shortcuts]\nplugin=org.kde.plasma.kickoff\n[Applets][\n[Applets][]\n";
-    EXPECT_EQ(entry("KDE", "160"), "missing");
 }
 
 TEST(SharedSettings, AnswerTheFollowerWhatWasReadForTheFirstReaderAndAfterThatReadAnew) {

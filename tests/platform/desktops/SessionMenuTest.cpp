@@ -100,16 +100,6 @@ TEST_F(SessionMenuTest, OfXfceRunsWhatTheUserBoundWhereNoServiceDoesIt) {
     EXPECT_EQ(state(Desktop::xfce), notBound) << "to switch off is not to log out";
 }
 
-TEST_F(SessionMenuTest, OfKdeHasItsServiceForShortcutsDoEverything) {
-    source.kde = {
-        {"ksmserver", "Lock Session", {0x1000004c, 0x010000b8}}, {"ksmserver", "Log Out", {0x0d000007}},
-        {"ksmserver", "Log Out", {0x0c000000 | 0x01000007}},     {"kwin", "Overview", {0x10000057}},
-        {"org.kde.krunner.desktop", "_launch", {0x08000020}},    {"org.kde.dolphin.desktop", "_launch", {0x10000045}}};
-    EXPECT_THAT(commands(Desktop::kde),
-                ElementsAre("lock 262144+37 ksmserver Lock Session", "log_out 1572864+117 ksmserver Log Out",
-                            "overview 262144+13 kwin Overview", "files 262144+14 org.kde.dolphin.desktop _launch"));
-}
-
 // A menu cannot say Alt without Ctrl, and the two others need a key of the main block.
 TEST_F(SessionMenuTest, CountsOnlyKeysThatAMenuCanSay) {
     struct Case {

@@ -83,21 +83,6 @@ TEST(Backdrop, BlurMovesNothingAndSpreadsAnEdge) {
     for (int x = 41; x < 360; ++x) ASSERT_LE(grey(x - 1), grey(x)) << x;
 }
 
-TEST(Backdrop, CornersShowWhatLiesBehindOrNothing) {
-    const QRgb orange = qRgb(255, 128, 0);
-    const QImage covered = qt::makeBackdrop(styleOf({301, 203}), screenOf({301, 203}, orange), {});
-    const QImage blended =
-        qt::makeBackdrop(styleOf({301, 203}, BackdropStyle::Behind::blended), screenOf({301, 203}, orange), {});
-    for (const QPoint corner : {QPoint(0, 0), QPoint(300, 0), QPoint(0, 202), QPoint(300, 202)}) {
-        EXPECT_EQ(covered.pixel(corner), orange);
-        EXPECT_EQ(qAlpha(blended.pixel(corner)), 0);
-    }
-    EXPECT_EQ(qAlpha(blended.pixel(150, 100)), 255);
-    int partial = 0;
-    for (int x = 0; x < 30; ++x) partial += qAlpha(blended.pixel(x, 5)) % 255 != 0 ? 1 : 0;
-    EXPECT_GT(partial, 0) << "the edge is smooth";
-}
-
 TEST(ScreenCapture, NeverSeesTheWindowThatStandsThereMeanwhile) {
     FakeWindowEffects effects;
     effects.screen = [](int, int) { return 0xff0000ffU; };

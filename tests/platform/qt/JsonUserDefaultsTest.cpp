@@ -78,20 +78,6 @@ protected:
     fs::path file;
 };
 
-TEST_F(Settings, AreForTheirOwnerOnlyAndLeaveNothingElseBehind) {
-    qt::JsonUserDefaults defaults(file);
-    EXPECT_EQ(defaults.objectForKey("absent"), Value{});
-    defaults.setObject("isBlurStyle", true);
-    EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
-    EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms(0700));
-    EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 2) << "it and its lock";
-    EXPECT_TRUE(qt::JsonUserDefaults(file).boolForKey("isBlurStyle"));
-    defaults.removeObject("isBlurStyle");
-    EXPECT_EQ(qt::JsonUserDefaults(file).objectForKey("isBlurStyle"), Value{});
-    EXPECT_TRUE(log.lines.empty());
-}
-
 TEST_F(Settings, AChangeInPlaceIsSeenEvenWithinTheSameClockTick) {
     write(file, R"({"n": 0})");
     qt::JsonUserDefaults defaults(file);
@@ -100,32 +86,6 @@ TEST_F(Settings, AChangeInPlaceIsSeenEvenWithinTheSameClockTick) {
         write(file, R"({"n": )" + std::to_string(i) + "}");
     }
     EXPECT_EQ(defaults.integerForKey("n"), 8);
-}
-
-TEST_F(Settings, ADamagedFileReadsAsEmptyAndIsKeptAsideBeforeTheNextWrite) {
-    for (const auto& [text, aside] :
-         {std::pair{"{\"isBlurStyle\": tr", "settings.json.damaged"}, std::pair{"[1]", "settings.json.damaged.2"},
-          std::pair{"[1]", "settings.json.damaged.2"}}) {
-        write(file, text);
-        qt::JsonUserDefaults defaults(file);
-        log.lines.clear();
-        EXPECT_EQ(defaults.objectForKey("isBlurStyle"), Value{});
-        EXPECT_EQ(log.lines.size(), 1U);
-        EXPECT_EQ(read(file), text) << "reading changes nothing";
-        defaults.setObject("isBlurStyle", true);
-        EXPECT_EQ(read(file.parent_path() / aside), text);
-        EXPECT_TRUE(qt::JsonUserDefaults(file).boolForKey("isBlurStyle"));
-    }
-    EXPECT_FALSE(fs::exists(file.string() + ".damaged.3"));
-}
-
-TEST_F(Settings, ASymbolicLinkStaysOneAlsoWhenItLeadsNowhereYet) {
-    const fs::path target = link();
-    for (std::int64_t i = 1; i <= 2; ++i) {
-        qt::JsonUserDefaults(file).setObject("n", i);
-        EXPECT_TRUE(fs::is_symlink(file));
-        EXPECT_EQ(qt::JsonUserDefaults(target).integerForKey("n"), i);
-    }
 }
 
 // What the superuser may do all the same is no test: a folder in the file's place stops everybody.

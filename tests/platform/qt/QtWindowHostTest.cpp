@@ -1,8 +1,6 @@
 #include <QExposeEvent>
 #include <QMouseEvent>
 #include <QWindow>
-#include <cmath>
-#include <tuple>
 
 #include "platform/VisualEffectView.h"
 #include "platform/Window.h"
@@ -25,8 +23,6 @@ struct PanelView : View {
         if (centres) window()->center();
         if (marksItself) setNeedsDisplay(true);
     }
-    void mouseMoved(const MouseEvent& event) override { moved = event.locationInWindow; }
-    void mouseExited(const MouseEvent&) override { ++exits; }
     void mouseDown(const MouseEvent& event) override { pressed = event.locationInWindow; }
 
     int passes = 0;
@@ -34,8 +30,7 @@ struct PanelView : View {
     bool centres = false;
     bool marksItself = false;
     std::optional<Size> fitted;
-    std::optional<Point> moved, pressed;
-    int exits = 0;
+    std::optional<Point> pressed;
 };
 
 class Host : public QtFixture {
@@ -46,7 +41,6 @@ protected:
         window.isReleasedWhenClosed = true;
         window.level = Window::statusLevel;
         window.setContentView(std::move(content));
-        view->addTrackingArea({{0, 0, 1000, 1000}, TrackingArea::mouseEnteredAndExited | TrackingArea::mouseMoved});
     }
     ~Host() override {
         window.close();
@@ -121,76 +115,6 @@ TEST_F(Host, AResizeOutsideOfAPassMovesTheWindowKeepingItsTop) {
     turnEventLoop();
     EXPECT_EQ(native().geometry(), QRect(100, top, 320, 150));
     EXPECT_EQ(view->passes, 1);
-}
-
-TEST_F(Host, TheMainScreenIsTheOneOfTheWindowWithTheKeyboard) {
-    const struct {
-        std::optional<PixelRect> focused;
-        const char* screen;
-    } cases[] = {
-        {std::nullopt, "main"},
-        {PixelRect{100, 100, 300, 200}, "main"},
-        {PixelRect{1900, 700, 50, 40}, "side"},
-        {PixelRect{700, 100, 300, 200}, "side"},   // its middle is there
-        {PixelRect{1990, 100, 300, 200}, "side"},  // its middle is nowhere
-        {PixelRect{-1, -1, 1, 1}, "main"},
-    };
-    for (const auto& [focused, screen] : cases) {
-        effects.focusedWindow = focused;
-        EXPECT_EQ(system.mainScreen()->localizedName, screen);
-    }
-}
-
-TEST_F(Host, APanelStandsInTheMiddleOfTheMainScreenInThatScreensPixels) {
-    effects.screen = [](int, int) { return 0xffffffffU; };
-    effects.focusedWindow = PixelRect{1000, 100, 300, 200};
-    View& panel = makePanel();
-    window.center();
-    show();
-    const auto expectCopied = [this](const PixelRect& area) {
-        const PixelRect& copied = effects.copies.back();
-        EXPECT_EQ(std::tie(copied.x, copied.y, copied.width, copied.height),
-                  std::tie(area.x, area.y, area.width, area.height));
-    };
-    expectCopied({800 + 375, 225, 450, 300});
-    EXPECT_EQ(effects.shapes.back(), 45);
-
-    // The screen is gone, and with it the window that had the keyboard.
-    effects.focusedWindow.reset();
-    emit qGuiApp->primaryScreenChanged(QGuiApplication::primaryScreen());
-    EXPECT_TRUE(panel.needsDisplay()) << "a pass will say where the panel belongs now";
-    window.center();
-    turnEventLoop();
-    expectCopied({250, 300, 300, 200});
-    EXPECT_EQ(effects.shapes.back(), 30);
-}
-
-TEST_F(Host, AtAFractionalScaleAPressBelongsToWhatIsPaintedThere) {
-    effects.focusedWindow = PixelRect{1000, 100, 300, 200};
-    window.center();
-    show();
-    const double scale = native().devicePixelRatio();
-    ASSERT_EQ(scale, 1.5);
-    for (int edge = 1; edge < 40; ++edge) {
-        const double painted = std::round(edge * scale);
-        send(QEvent::MouseButtonPress, {painted / scale, painted / scale});
-        EXPECT_GE(view->pressed->x, edge);
-        EXPECT_LT(view->pressed->y, 200 - edge);
-        send(QEvent::MouseButtonPress, {(painted - 1) / scale, (painted - 1) / scale});
-        EXPECT_LT(view->pressed->x, edge);
-        EXPECT_GE(view->pressed->y, 200 - edge);
-    }
-}
-
-TEST_F(Host, ThePointersHeightIsCountedFromTheBottom) {
-    show();
-    send(QEvent::MouseMove, {10, 20});
-    EXPECT_EQ(view->moved, (Point{10, 179}));
-    send(QEvent::MouseButtonPress, {0, 199});
-    EXPECT_EQ(view->pressed, (Point{0, 0}));
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(&native(), &leave);
-    EXPECT_EQ(view->exits, 1);
 }
 
 TEST_F(Host, AWindowBeyondWhatCanBeShownIsCutToTheScreenAndItsCoordinatesStay) {

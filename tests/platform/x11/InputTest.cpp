@@ -32,32 +32,6 @@ TEST(FocusMemory, AnotherWindowOfOursKeepsTheOneBefore) {
     EXPECT_EQ(memory.former(), std::nullopt);
 }
 
-TEST(MonitorList, AnEventReachesTheHandlersOfItsDestinationAndTypeInOrder) {
-    MonitorList list;
-    std::string heard;
-    const auto local = [&heard](char name) {
-        return EventMonitors::LocalHandler([&heard, name](const Event& event) {
-            heard += name;
-            return event;
-        });
-    };
-    const auto first = list.add(flagsChangedMask, local('a'));
-    const auto second =
-        list.add(flagsChangedMask, EventMonitors::GlobalHandler([&heard](const Event&) { heard += 'g'; }));
-    list.add(keyDownMask, local('k'));
-    list.add(flagsChangedMask | keyDownMask, local('b'));
-    EXPECT_NE(first, second);
-
-    list.dispatch({Event::Type::flagsChanged, 0x100, 0}, Destination::local);
-    EXPECT_EQ(std::exchange(heard, ""), "ab");
-    list.dispatch({Event::Type::flagsChanged, 0x100, 0}, Destination::global);
-    EXPECT_EQ(std::exchange(heard, ""), "g");
-    list.dispatch({Event::Type::keyDown, 0x100, 53}, Destination::local);
-    EXPECT_EQ(std::exchange(heard, ""), "kb");
-    list.dispatch({Event::Type::leftMouseDown, 0x100, 0}, Destination::global);
-    EXPECT_EQ(heard, "");
-}
-
 TEST(MonitorList, AHandlerMayAddAnother) {
     MonitorList list;
     int later = 0;

@@ -116,16 +116,5 @@ TEST_F(ControlsWindows, ActivationWaitsForTheNextWindowOfTheTurnAndElseTakesTheF
     EXPECT_EQ(effects.focused.size(), 2U) << "nothing is there to activate";
 }
 
-TEST_F(ControlsWindows, OnlyARegularProgramsWindowsAreListed) {
-    open();
-    EXPECT_EQ(effects.listings, std::vector{Listing::unlisted});
-    program.setActivationPolicy(Application::ActivationPolicy::regular);
-    program.setActivationPolicy(Application::ActivationPolicy::regular);
-    window->close();
-    program.setActivationPolicy(Application::ActivationPolicy::accessory);
-    window->orderFront();
-    EXPECT_EQ(effects.listings, (std::vector{Listing::unlisted, Listing::listed, Listing::unlisted}));
-}
-
 }  // namespace
 }  // namespace orlamo

@@ -203,20 +203,6 @@ TEST_F(InterfaceFile, OutletsAreEmptyOnceTheViewIsGone) {
     EXPECT_TRUE(owner.button.expired());
 }
 
-TEST_F(InterfaceFile, TheOwnerHearsOfEachComingAndGoingOnce) {
-    load();
-    QWidget window;
-    root().setParent(&window);
-    root().show();
-    EXPECT_TRUE(owner.done.empty());
-    window.show();
-    window.hide();
-    window.show();
-    root().setParent(nullptr);
-    view.reset();
-    EXPECT_EQ(owner.done, (std::vector<std::string>{"appear", "disappear", "appear", "disappear"}));
-}
-
 TEST_F(InterfaceFile, AMistakeIsOneLineInTheLogAndTheRestWorks) {
     const std::vector<ActionBinding> right = owner.actions();
     auto lacking = right, unused = right, fromAnother = right;

@@ -1,10 +1,6 @@
-#include "platform/qt/controls/QtPopover.h"
-
-#include <QPushButton>
-
-#include "platform/qt/controls/ControlAdapter.h"
 #include "platform/qt/controls/PopoverPlacement.h"
-#include "tests/platform/qt/controls/WidgetFixture.h"
+
+#include <gtest/gtest.h>
 
 namespace orlamo {
 namespace {
@@ -35,66 +31,6 @@ TEST(PopoverPlacement, StandsOnThePreferredEdgeOrTheOppositeOneInsideTheScreen) 
     const PopoverPlacement above = qt::placePopover({500, 400, 20, 20}, content, RectEdge::maxY, screen);
     EXPECT_LE(above.frame.bottom(), 400);
     EXPECT_EQ(above.tip, QPoint(509, above.frame.bottom() + 1));
-}
-
-class Help : public WidgetFixture {
-protected:
-    Help() {
-        files.size = content;
-        window.resize(400, 300);
-        (new QPushButton(&window))->setFocus();
-        button = new QPushButton(&window);
-        button->setGeometry(200, 200, 30, 30);
-        control = std::make_unique<qt::ControlAdapter<Control>>(*button);
-        window.show();
-        window.activateWindow();
-        turnEventLoop();
-        popover = std::make_unique<qt::QtPopover>();
-        popover->behavior = Popover::Behavior::transient;
-        popover->setContentViewController(page);
-    }
-    void show() {
-        popover->showRelativeToRect(control->bounds(), *control, RectEdge::maxY);
-        turnEventLoop();
-    }
-    QWidget& shown() { return *page.widget().window(); }
-
-    PlainInterfaceFiles files;
-    Page page;
-    QWidget window;
-    QPushButton* button = nullptr;
-    std::unique_ptr<Control> control;
-    std::unique_ptr<qt::QtPopover> popover;
-};
-
-TEST_F(Help, ComesAndGoesAsOftenAsAskedAndGivesTheKeyboardBack) {
-    for (int times = 1; times <= 2; ++times) {
-        show();
-        EXPECT_TRUE(popover->isShown());
-        EXPECT_EQ(page.appearances, times);
-        EXPECT_EQ(page.widget().size(), content);
-        pressKey(shown(), Qt::Key_Escape);
-        EXPECT_FALSE(popover->isShown());
-        EXPECT_EQ(page.disappearances, times);
-        turnEventLoop();
-        EXPECT_EQ(QApplication::focusWidget(), button);
-    }
-}
-
-TEST_F(Help, APressOutsideClosesItAndOneInsideDoesNotAndItsContentOutlivesIt) {
-    show();
-    press(shown(), {100, 50});
-    EXPECT_TRUE(popover->isShown());
-    press(shown(), {0, 0});
-    EXPECT_FALSE(popover->isShown()) << "beyond the rounded corner";
-    show();
-    press(shown(), {300, 50});
-    EXPECT_FALSE(popover->isShown());
-    show();
-    const QPointer<QWidget> widget = &page.widget();
-    popover.reset();
-    ASSERT_TRUE(widget);
-    EXPECT_EQ(widget->parentWidget(), nullptr);
 }
 
 }  // namespace

@@ -3,35 +3,22 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QWheelEvent>
 
 #include "tests/platform/qt/controls/WidgetFixture.h"
 
 namespace orlamo {
 namespace {
 
-struct Dropping : ScrollViewBehavior {
-    void scrollWheel(ScrollView&, Point delta) override { last = delta; }
-    static inline Point last;
-};
-
 class Scrolling : public WidgetFixture {
 protected:
-    void make(std::unique_ptr<ScrollViewBehavior> behavior) {
+    void make() {
         area = std::make_unique<QScrollArea>();
         area->setFrameShape(QFrame::NoFrame);
         area->resize(300, 200);
-        view = qt::makeScrollView(*area, std::move(behavior));
+        view = qt::makeScrollView(*area, nullptr);
         area->show();
         view->setDocumentView(first.view());
         turnEventLoop();
-    }
-    /// Whether the wheel did something.
-    bool turnWheel(int angle) {
-        QWheelEvent wheel({50, 50}, area->mapToGlobal(QPointF(50, 50)), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(area->viewport(), &wheel);
-        return wheel.isAccepted();
     }
     int top() const { return area->verticalScrollBar()->value(); }
 
@@ -42,7 +29,7 @@ protected:
 };
 
 TEST_F(Scrolling, ADocumentFillsTheWidthScrollsWithYUpwardAndSurvivesBeingReplaced) {
-    make(nullptr);
+    make();
     EXPECT_EQ(view->documentViewBounds(), (Rect{0, 0, double(area->viewport()->width()), 400}));
     view->scrollDocumentTo({0, 250});
     EXPECT_EQ(top(), 150);
@@ -60,13 +47,13 @@ TEST_F(Scrolling, ADocumentFillsTheWidthScrollsWithYUpwardAndSurvivesBeingReplac
 
 TEST_F(Scrolling, EitherSideMayGoFirst) {
     for (const bool controlFirst : {true, false}) {
-        make(nullptr);
+        make();
         if (controlFirst) view.reset();
         area.reset();
         EXPECT_EQ(first.widget().parentWidget(), nullptr);
         view.reset();
     }
-    make(nullptr);
+    make();
     auto page = std::make_unique<Page>();
     view->setDocumentView(page->view());
     page.reset();
@@ -84,20 +71,10 @@ TEST_F(Scrolling, WhatTheFilePutThereIsNotLostWhenAnotherIsShown) {
     EXPECT_TRUE(content);
 }
 
-TEST_F(Scrolling, ABehaviourMayDropTheWheelWhichThenIsLeftToWhatIsAround) {
-    make(std::make_unique<Dropping>());
-    EXPECT_FALSE(turnWheel(-120));
-    EXPECT_GT(Dropping::last.y, 0) << "towards the user is downward";
-    make(std::make_unique<ScrollViewBehavior>());
-    EXPECT_TRUE(turnWheel(-10000));
-    EXPECT_EQ(top(), 200);
-    EXPECT_FALSE(turnWheel(-120));
-}
-
 TEST_F(Scrolling, AControlThatGetsTheFocusComesIntoSight) {
     auto* const button = new QPushButton(&first.widget());
     button->setGeometry(0, 350, 80, 30);
-    make(nullptr);
+    make();
     area->activateWindow();
     button->setFocus(Qt::TabFocusReason);
     EXPECT_GE(top(), 180);
