@@ -27,9 +27,11 @@ class StatusItem(DesktopTest):
 
     def picture_of_icon(self, tray):
         """Once the icon is painted: its picture has more than one colour."""
-        area = tray.wait_for_icon(self.program.pid)
-        wait_until(lambda: len(self.screen.picture(area).getcolors(1 << 16)) > 1, SOON, "painted icon")
-        return self.screen.picture(area)
+        def painted():
+            picture = self.screen.picture(tray.wait_for_icon(self.program.pid))
+            return picture if len(picture.getcolors(1 << 16)) > 1 else None
+
+        return wait_until(painted, SOON, "painted icon")
 
     def assert_colours(self):
         self.start_program()

@@ -218,7 +218,12 @@ class XEmbedTray:
         screen = self._session.screen
         windows = [screen.display.create_resource_object("window", icon.id) for icon in list(self._icons)]
         areas = [screen.geometry_of(window) for window in windows if screen.pid_of(window) == pid]
-        return [area for area in areas if area]
+        return [area for area in areas if area and self._is_laid_out(*area)]
+
+    def _is_laid_out(self, x, y, width, height):
+        """On the screen and more than the pixel that a window begins with."""
+        screen = self._session.screen
+        return width > 1 < height and 0 <= x <= screen.width - width and 0 <= y <= screen.height - height
 
     def wait_for_icon(self, pid, seconds=2):
         return wait_until(lambda: self.icon_areas(pid), seconds, f"status icon of process {pid}")[0]
