@@ -69,6 +69,10 @@ TEST_F(CanvasViewDrawing, TheTitleBarsStandAboveTheirAreas) {
     EXPECT_DOUBLE_EQ(context.find("Editor")->origin.y, top + 37.5 - 1.2 * 19 / 2);
     EXPECT_DOUBLE_EQ(context.find("System!")->origin.x, 183 + 133 / 2 - 7 * 0.6 * 19 / 2);
     EXPECT_EQ(context.find("System!")->pointSize, 17);
+    addItems(40);
+    open();
+    const auto end = context.fills.at(0).path.elements[3].point.x + 5;
+    EXPECT_EQ(end, view->currentShortM.back().rect.maxX()) << "also above several columns";
 }
 
 TEST_F(CanvasViewDrawing, ABarIsFiveArcsClockwiseAndTheSystemsKeepsItsWidthTurnedPositiveWithoutEntries) {

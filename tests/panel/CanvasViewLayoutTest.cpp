@@ -73,6 +73,7 @@ TEST_F(CanvasViewLayout, EveryColumnStartsBehindTheWidthsAndGapsBeforeIt) {
     ASSERT_EQ(view->shortcutsM.size(), 70U);
     for (const std::size_t first : {0U, 31U, 62U}) {
         EXPECT_EQ(view->shortcutsM[first].rect.x, x);
+        EXPECT_EQ(view->shortcutsM[first].rect.y, cells[0].rect.y);
         x += view->shortcutsM[first].rect.width + 20;
     }
     EXPECT_EQ(view->tempRect->width, x - 20 + 30) << "no gap behind the last column";

@@ -127,8 +127,11 @@ TEST(RowView, IsLightUnderThePointerAndDarkWhenSelected) {
         row.isSelected = true;
         EXPECT_EQ(drawn(), dark);
     }
-    row.setFrame({0, 0, 26, 6});
-    EXPECT_EQ(drawn(), (Fills{{Path::roundedRect({12.5, 2.5, 1, 1}, 10), {0, 0, 0, 0.35}}}));
+    const Fills least{{Path::roundedRect({12.5, 2.5, 1, 1}, 10), {0, 0, 0, 0.35}}};
+    for (const auto& [size, fills] : {std::pair(Size{25, 6}, none), {{26, 5}, none}, {{26, 6}, least}}) {
+        row.setFrame({0, 0, size.width, size.height});
+        EXPECT_EQ(drawn(), fills);
+    }
     row.selectionHighlightStyle = TableRowView::SelectionHighlightStyle::none;
     EXPECT_EQ(drawn(), none);
 }
@@ -138,9 +141,12 @@ TEST(GradientView, EveryPropertyFromTheFileReachesTheLayer) {
     view.awakeFromNib();
     ASSERT_EQ(view.layer, view.GradientLayer);
     const GradientLayer& layer = *view.GradientLayer;
+    RecordingGraphicsContext context;
+    view.display(context);
     EXPECT_EQ(std::pair(layer.startPoint, layer.endPoint), std::pair(Point{0, 0.5}, Point{1, 0.5}));
     EXPECT_TRUE(view.setValueForKey(Color::black(), "firstColor"));
     EXPECT_EQ(layer.colors, (std::vector{Color::black(), Color::clearColor()}));
+    EXPECT_TRUE(view.needsDisplay());
     EXPECT_TRUE(view.setValueForKey(Color::grey(1), "secondColor"));
     EXPECT_EQ(layer.colors, (std::vector{Color::black(), Color::grey(1)}));
     EXPECT_EQ(layer.locations, (std::vector{0.0, 1.0}));

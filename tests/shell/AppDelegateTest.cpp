@@ -159,6 +159,8 @@ TEST_F(Launch, OneMissingOrMistypedBooleanResetsAllFive) {
     desktop.defaults.values = others;
     desktop.defaults.values["isBlurStyle"] = 0.0;
     desktop.defaults.values["isHiddenStatusBar"] = std::int64_t{1};
+    desktop.defaults.values["isContainsAppleMenu"] = std::int64_t{0};
+    desktop.defaults.values["isLaunchAtLoginEnabled"] = 1.0;
     writeDefaultValues(desktop.defaults);
     EXPECT_EQ(desktop.defaults.values, others) << "five good ones stay as they were";
 }
@@ -198,6 +200,12 @@ TEST_F(Launch, APressInAnotherApplicationClosesThePanelWhereverThePointerIsOnASc
         const Lines lines{"鼠标在屏幕 " + screen + " 的范围内，隐藏窗口", "关闭快捷键窗口。。。"};
         EXPECT_EQ(desktop.log.lines, screen.empty() ? Lines{} : lines);
     }
+    desktop.openEditor({FakeAccessibility::item("Save", "S")});
+    delegate.canvasWindowController.showShortcutWindow();
+    EXPECT_NE(delegate.canvasWindowController.canvasView(), nullptr);
+    desktop.windows.mouse = {10, 10};
+    desktop.monitors.deliverGlobal(press);
+    EXPECT_EQ(delegate.canvasWindowController.canvasView(), nullptr);
     isShortcutWindowShown = false;
 }
 

@@ -52,7 +52,7 @@ TEST_F(UpdateScheduleTest, ACheckIsDueOnceTheStampIsMoreThanFiveDaysOld) {
         EXPECT_EQ(isDue(std::string("2024-03-05T14:07:09+0800"), stamped + age), due) << age;
         EXPECT_EQ(log.lines, Lines{std::string("现在是否是应用程序更新的时候？ ") + (due ? "true" : "false")});
     }
-    EXPECT_FALSE(isDue(std::string("2024-03-05T07:06:09+0059"), stamped));
+    EXPECT_FALSE(isDue(std::string("2024-03-05T05:08:09-0059"), stamped + 432000));
 }
 
 TEST_F(UpdateScheduleTest, WithoutAReadableStampACheckIsDueAndNothingIsLogged) {
