@@ -7,6 +7,8 @@
 #include <csignal>
 #include <utility>
 
+#include "platform/Log.h"
+
 namespace orlamo {
 
 namespace {
@@ -23,7 +25,10 @@ void wakeMainLoop(int) {
 }  // namespace
 
 EndSignal::EndSignal(std::function<void()> end) {
-    if (::pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
+    if (::pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+        logLine("SIGTERM ends this program on the spot: no pipe to wake it");
+        return;
+    }
     notifier_.emplace(pipe_[0], QSocketNotifier::Read);
     QObject::connect(&*notifier_, &QSocketNotifier::activated, [this, end = std::move(end)] {
         notifier_->setEnabled(false);
