@@ -149,7 +149,6 @@ SessionMenu readSessionMenu(std::optional<Desktop> desktop, SettingsSource& sour
     if (!desktop || sessionRows(*desktop).empty()) return {};
     const auto rows = sessionRows(*desktop);
     source.refresh();
-    services.refresh();
     Bindings bindings(*desktop, rows, source);
     std::vector<SessionCommand> bound[std::size(roles)];
     bool isBound = true;
@@ -161,6 +160,7 @@ SessionMenu readSessionMenu(std::optional<Desktop> desktop, SettingsSource& sour
     if (!bindings.isAnswered()) return {SessionMenuState::noService, {}};
     if (!isBound) return {SessionMenuState::notBound, {}};
 
+    services.refresh();  // its time begins when it is asked
     SessionMenu menu{SessionMenuState::present, {}};
     for (std::size_t i = 0; i < std::size(roles); ++i) {
         auto found = firstOfEachTitle(bound[i], roles[i].wanted,
