@@ -26,6 +26,10 @@ constexpr std::size_t mostRoots = 50;  // of one process
 // still answer over the bus, in the time that is left.
 constexpr std::chrono::milliseconds longestGreetingTime{150};
 constexpr std::chrono::milliseconds longestCacheTime{350};
+// What asking the desktop's services may take. With less time left there is no session menu.
+constexpr std::chrono::milliseconds longestSessionMenuTime{400};
+// With less time for it a program is not to blame.
+constexpr std::chrono::milliseconds fairTime{500};
 
 struct Application {
     ObjectRef root;
@@ -171,10 +175,11 @@ Way wayTo(Connection& bus, const Application& application, int processIdentifier
     if (slow.caches.contains(root.bus)) return way;
     ++calls;
     Connection& asked = way.own ? *way.own : bus;
+    const bool isFair = deadlineIn(longestCacheTime) <= deadline;
     if (auto cache = readCache(asked, root.bus, std::min(deadline, deadlineIn(longestCacheTime)))) {
         way.known = std::move(*cache);
     } else {
-        slow.caches.insert(root.bus);
+        if (isFair) slow.caches.insert(root.bus);
         way.own.reset();
     }
     return way;
@@ -204,7 +209,11 @@ AXError readMenus(Connection& bus, int processIdentifier, const Options& options
                   std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics) {
     const std::vector<ObjectRef> roots = rootsOfProcess(bus, processIdentifier, deadline, statistics.calls);
     // First, so that services which hang take of the time for the program and add none to it.
-    const SessionMenu session = options.sessionMenu && !roots.empty() ? options.sessionMenu() : SessionMenu{};
+    const bool hasTime = deadlineIn(longestSessionMenuTime) <= deadline;
+    const SessionMenu session =
+        options.sessionMenu && hasTime && !roots.empty() ? options.sessionMenu() : SessionMenu{};
+    const bool isFair = deadlineIn(fairTime) <= deadline;
+    const auto isLate = [deadline] { return std::chrono::steady_clock::now() >= deadline; };
     for (const ObjectRef& root : roots) {
         if (std::chrono::steady_clock::now() >= deadline) break;
         const Application application = askApplication(bus, root, deadline, statistics.calls);
@@ -214,13 +223,13 @@ AXError readMenus(Connection& bus, int processIdentifier, const Options& options
         const auto menuBar = findMenuBar(source, known, application.windows);
         if (!menuBar) {
             statistics.calls += source.calls();
-            if (own && std::chrono::steady_clock::now() >= deadline) slow.addresses.insert(root.bus);
+            if (own && isFair && isLate()) slow.addresses.insert(root.bus);
             continue;
         }
         const RawTree raw = MenuReader(source, known, options.baseKeyOfShifted).read(*menuBar);
         const std::string name = nameForPeople(application, processIdentifier, options);
         if (known.size() > 2 * raw.nodes.size()) slow.caches.insert(root.bus);
-        if (own && !raw.isComplete) slow.addresses.insert(root.bus);
+        if (own && isFair && (isLate() || !own->isOpen())) slow.addresses.insert(root.bus);
         if (!raw.isComplete) reportUnfinished(raw, name, processIdentifier, deadline - options.readTime);
         statistics.calls += source.calls();
         statistics.elements = raw.nodes.size();
