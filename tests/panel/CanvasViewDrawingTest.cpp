@@ -62,7 +62,7 @@ TEST_F(CanvasViewDrawing, TheTitleBarsStandAboveTheirAreas) {
     const auto corner = [&](std::size_t bar) { return context.fills.at(bar).path.elements; };
     EXPECT_EQ(corner(0)[1].point, (Point{5, top + 15 + 5})) << "lower left, half a row above the cells";
     EXPECT_EQ(corner(0)[3].point, (Point{113 + 10 - 5, top + 60 - 5})) << "upper right, two rows above";
-    EXPECT_EQ(corner(1)[1].point.x, 113 + 70 + 5);
+    EXPECT_EQ(corner(1)[1].point, (Point{113 + 70 + 5, top + 15 + 5}));
     EXPECT_EQ(corner(1)[3].point.x, 113 + 70 + 123 + 10 - 5);
     EXPECT_EQ(context.fills[0].color, Color::white(0.1));
     EXPECT_DOUBLE_EQ(context.find("Editor")->origin.x, 113 / 2 - 6 * 0.6 * 19 / 2);
