@@ -16,10 +16,10 @@ constexpr std::size_t modifierIndex(std::uint64_t mask) {
            ((mask & EventFlags::shift) != 0 ? 4U : 0U) | ((mask & EventFlags::command) != 0 ? 8U : 0U);
 }
 
-// The length of the UTF-8 character that starts with this byte; 1 for bytes that start none.
+// How many bytes the UTF-8 character has that starts with this one. A byte that starts none may say up to 8, which is as
+// good: it is no modifier.
 constexpr std::size_t characterLength(char first) {
-    const int ones = std::countl_one(static_cast<unsigned char>(first));
-    return ones >= 2 && ones <= 4 ? static_cast<std::size_t>(ones) : 1;
+    return static_cast<std::size_t>(std::max(1, std::countl_one(static_cast<unsigned char>(first))));
 }
 
 std::string_view firstCharacter(std::string_view text) {
