@@ -171,7 +171,11 @@ TEST_F(MenuHarvest, WhatCannotBeReadIsSkipped) {
 
 TEST_F(MenuHarvest, WithoutAMenuBarThereIsNothingAndTheOldListsAreGone) {
     const std::pair<const char*, std::function<void(FakeElement & bar)>> cases[] = {
-        {"no frontmost application", [this](FakeElement&) { workspace.frontmost.reset(); }},
+        {"no frontmost application",
+         [this](FakeElement&) {
+             workspace.frontmost.reset();
+             ax.setMenuBar(1, {menu("Edit", {item("Copy", "C")})});
+         }},
         {"no such process", [this](FakeElement&) { ax.applications.clear(); }},
         {"no menu bar", [this](FakeElement&) { ax.applications[pid]->attributes.clear(); }},
         {"a text for a menu bar", [this](FakeElement&) { ax.applications[pid]->with("AXMenuBar", std::string("x")); }},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,13 +32,17 @@ public:
         static ApplicationDelegate anybody;  // Utility::shared() keeps it
         delegate = &anybody;
     }
-    void activate(IgnoringOtherApps ignoring) override { activations.push_back(ignoring); }
+    void activate(IgnoringOtherApps ignoring) override {
+        activations.push_back(ignoring);
+        whenActivated();
+    }
     void setActivationPolicy(ActivationPolicy policy) override { policies.push_back(policy); }
     void terminate() override { ++terminations; }
 
     std::vector<IgnoringOtherApps> activations;
     std::vector<ActivationPolicy> policies;
     int terminations = 0;
+    std::function<void()> whenActivated = [] {};
 
 private:
     Installation installation_{*this};

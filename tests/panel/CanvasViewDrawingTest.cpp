@@ -68,11 +68,14 @@ TEST_F(CanvasViewDrawing, TheTitleBarsStandAboveTheirAreas) {
     EXPECT_DOUBLE_EQ(context.find("Editor")->origin.x, 113 / 2 - 6 * 0.6 * 19 / 2);
     EXPECT_DOUBLE_EQ(context.find("Editor")->origin.y, top + 37.5 - 1.2 * 19 / 2);
     EXPECT_DOUBLE_EQ(context.find("System!")->origin.x, 183 + 133 / 2 - 7 * 0.6 * 19 / 2);
+    EXPECT_DOUBLE_EQ(context.find("System!")->origin.y, context.find("Editor")->origin.y);
     EXPECT_EQ(context.find("System!")->pointSize, 17);
-    addItems(40);
-    open();
-    const auto end = context.fills.at(0).path.elements[3].point.x + 5;
-    EXPECT_EQ(end, view->currentShortM.back().rect.maxX()) << "also above several columns";
+    for (const std::int64_t more : {40, 79}) {
+        addItems(more);
+        open();
+        const auto end = context.fills.at(0).path.elements[3].point.x + 5;
+        EXPECT_EQ(end, view->currentShortM.back().rect.maxX()) << "above several columns and in small type as well";
+    }
 }
 
 TEST_F(CanvasViewDrawing, ABarIsFiveArcsClockwiseAndTheSystemsKeepsItsWidthTurnedPositiveWithoutEntries) {
@@ -172,12 +175,14 @@ TEST_F(CanvasViewDrawing, SystemEntriesFollowTheSameRules) {
     systemShortcutList.emplace_back(SystemShortcutRecord{"Keyboard//space", "⌃", "E"});
     addSystem("Keyboard//No key", "⌃", "", 3, 0x40000);
     addSystem("Keyboard//Last", "⌃", "L", 4, 0x40000);
+    addSystem("Keyboard//Behind");
     systemKeyCombos.resize(2);
     open();
     EXPECT_NE(context.find("Leiste"), nullptr);
     EXPECT_NE(context.find("Tastatur"), nullptr);
     ASSERT_EQ(view->shortcutsM.size(), 1U) << "without a key there is no record, and the combinations end";
     EXPECT_NE(context.find("Last"), nullptr) << "drawn, but without a record";
+    EXPECT_EQ(context.find("Behind"), nullptr);
     view->isMouseInsideRect = true;
     view->systemHighlightedRect = view->shortcutsM[0].rect;
     draw();

@@ -60,7 +60,9 @@ TEST_F(CanvasViewLayout, APlainColumnIsAsWideAsItsWidestTitleAndTheWindowFitsAro
 
 TEST_F(CanvasViewLayout, EveryColumnStartsBehindTheWidthsAndGapsBeforeIt) {
     addItems(121);  // four columns of 31 rows, 13 points, gap 20
-    addSystems(70);
+    addSystems(31);
+    addSystem("Keyboard//The widest one");
+    addSystems(38);
     open();
     const auto& cells = view->currentShortM;
     ASSERT_EQ(cells.size(), 121U);
@@ -119,11 +121,11 @@ TEST_F(CanvasViewLayout, TheSystemAreaStartsBehindTheColumnWhereTheEntriesEnded)
 TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOver147) {
     // Ten-point characters are 6 points wide: 25 make 150, 26 are too wide, and 25 are the first over 147.
     const std::string fits(25, 'x');
-    const std::string tooLong(66, 'x');
+    const std::string tooLong = "W" + std::string(65, 'x');
     addItem(fits);
     addItem(tooLong);
     open();
-    EXPECT_EQ(view->currentShortM.at(1).title, std::string(25, 'x') + "...");
+    EXPECT_EQ(view->currentShortM.at(1).title, tooLong.substr(0, 25) + "...");
     EXPECT_EQ(view->currentShortM.at(1).rect.width, static_cast<int>(28 * 0.6 * 14) + 80 + 10);
     // Drawing tests at 13 points, where the shorter one is too wide too; its prefix ends one character early.
     EXPECT_EQ(view->currentShortM.at(0).title, std::string(24, 'x') + "...");

@@ -61,6 +61,7 @@ TEST_F(CanvasViewPointer, EveryMoveAsksForAPassAndLeavingEndsTheHighlight) {
     EXPECT_TRUE(view->currentHighlightedRect);
     view->resetPanelState();
     EXPECT_FALSE(view->currentHighlightedRect);
+    draw();
     window.pointerLeft();
     EXPECT_FALSE(view->isMouseInsideRect);
     EXPECT_TRUE(view->needsDisplay());
@@ -147,11 +148,18 @@ TEST_F(CanvasViewPointer, ASystemCellReplaysItsCombinationAsDownAndUp) {
 
 TEST_F(CanvasViewPointer, ASystemKeyAloneIsPostedToo) {
     addItem("Save");
-    addSystem("Screen Shots//Area", "", "F13", 105, 0);
-    open();
-    click(view->shortcutsM.at(0).rect);
-    ASSERT_EQ(desktop.poster.posted.size(), 2U);
-    EXPECT_EQ(desktop.poster.posted[0].event.flags, 0U);
+    constexpr std::int64_t lowest = 0, highest = 65535;
+    for (const std::int64_t key : {lowest, highest}) {
+        systemShortcutList.clear();
+        systemKeyCombos.clear();
+        addSystem("Screen Shots//Area", "", "F13", key, 0);
+        open();
+        click(view->shortcutsM.at(0).rect);
+        ASSERT_FALSE(desktop.poster.posted.empty());
+        EXPECT_EQ(desktop.poster.posted.back().event.keyCode, key);
+        EXPECT_EQ(desktop.poster.posted.back().event.flags, 0U);
+        desktop.runLoop.advance(1);
+    }
 }
 
 TEST_F(CanvasViewPointer, AKeyThatCannotBePostedClosesThePanelAndPostsNothing) {

@@ -20,6 +20,7 @@ protected:
         appMenuItems.clear();
         menuItemKeyCodes.clear();
         desktop.openEditor({FakeAccessibility::item("Save", "S")});
+        desktop.preferences.setHotKeys(PropertyList::Dictionary{{"52", FakeSystemPreferences::hotKey(true, 2, 0)}});
     }
 
     FakeDesktop desktop;
@@ -29,6 +30,7 @@ protected:
 
 TEST_F(PanelController, OpensABorderlessDarkWindowAboveOthersAndActivatesTheProgram) {
     desktop.defaults.values["CornerRadius"] = std::int64_t{12};
+    desktop.application.whenActivated = [] { EXPECT_FALSE(appMenuItems.empty()) << "read while the other is in front"; };
     controller.showShortcutWindow();
     const Window& panel = controller.canvasWindow();
     EXPECT_EQ(panel.frame(), (Rect{100, 100, 1240, 800}));
@@ -93,6 +95,7 @@ TEST_F(PanelController, HidingEmptiesTheListsAndHandsTheFocusBack) {
     isShortcutWindowShown = true;
     controller.showShortcutWindow();
     EXPECT_EQ(menuItemKeyCodes.size(), 1U);
+    EXPECT_EQ(systemShortcutList.size(), 2U);
     desktop.workspace.frontmost = program;
     desktop.workspace.activations.clear();
     controller.hideShortcutWindow();

@@ -161,6 +161,9 @@ TEST_F(Permissions, TheCloseButtonEndsTheRefreshAndClosesTheWindow) {
     files.perform("closeWindow:", button);
     EXPECT_EQ(controller.timer, nullptr);
     EXPECT_EQ(desktop.windows.visibleWindows(), 0);
+    controller.viewWillAppear();
+    controller.viewWillDisappear();
+    EXPECT_EQ(controller.timer, nullptr) << "however the window goes";
 }
 
 }  // namespace

@@ -43,6 +43,7 @@ TEST_F(Launch, TheStepsFollowEachOtherInOrder) {
     files.beforeViewDidLoad = [](FakeInterfaceView& view) {
         if (view.name == "InitialViewController") logLine("the preferences");
     };
+    desktop.application.whenActivated = [] { logLine("the program comes to the front"); };
     EXPECT_EQ(updates.startedWith, Updates::StartingUpdater::yes) << "before the launch";
     EXPECT_NE(updates.delegate, nullptr);
 
@@ -51,7 +52,8 @@ TEST_F(Launch, TheStepsFollowEachOtherInOrder) {
     delegate.applicationDidFinishLaunching();
     using testing::StartsWith;
     EXPECT_THAT(desktop.log.lines,
-                testing::ElementsAre("a check", StartsWith("应用程序更新检查已完成，时间："), "the preferences",
+                testing::ElementsAre("a check", StartsWith("应用程序更新检查已完成，时间："),
+                                     "the program comes to the front", "the preferences",
                                      "这是第一次启动应用程序，打印默认值", "已开启辅助功能", "launch: trigger monitors",
                                      "launch: click monitor", "launch: status item", "launch: settings observers"));
     EXPECT_THAT(desktop.application.activations, testing::ElementsAre(Application::IgnoringOtherApps::yes));
