@@ -16,8 +16,8 @@ constexpr std::size_t modifierIndex(std::uint64_t mask) {
            ((mask & EventFlags::shift) != 0 ? 4U : 0U) | ((mask & EventFlags::command) != 0 ? 8U : 0U);
 }
 
-// How many bytes the UTF-8 character has that starts with this one. A byte that starts none may say up to 8, which is as
-// good: it is no modifier.
+// How many bytes the UTF-8 character has that starts with this one. A byte that starts none may say up to 8, which is
+// as good: it is no modifier.
 constexpr std::size_t characterLength(char first) {
     return static_cast<std::size_t>(std::max(1, std::countl_one(static_cast<unsigned char>(first))));
 }

@@ -30,7 +30,9 @@ protected:
 
 TEST_F(PanelController, OpensABorderlessDarkWindowAboveOthersAndActivatesTheProgram) {
     desktop.defaults.values["CornerRadius"] = std::int64_t{12};
-    desktop.application.whenActivated = [] { EXPECT_FALSE(appMenuItems.empty()) << "read while the other is in front"; };
+    desktop.application.whenActivated = [] {
+        EXPECT_FALSE(appMenuItems.empty()) << "read while the other is in front";
+    };
     controller.showShortcutWindow();
     const Window& panel = controller.canvasWindow();
     EXPECT_EQ(panel.frame(), (Rect{100, 100, 1240, 800}));
