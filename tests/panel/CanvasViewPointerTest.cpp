@@ -80,6 +80,12 @@ TEST_F(CanvasViewPointer, ACellBeyondTheBoundsIsHitWhereItIsDrawnAndARefusedPres
     EXPECT_EQ(desktop.accessibility.presses.size(), 1U);
     EXPECT_TRUE(desktop.log.contains("点击操作失败，错误码：-25204"));
     EXPECT_TRUE(isClosing());
+    appMenuItems.erase(appMenuItems.begin() + 1, appMenuItems.end() - 1);
+    draw();
+    window.pointerMoved({1, 1});
+    draw();
+    moveTo(last);
+    EXPECT_FALSE(view->needsDisplay()) << "nothing is drawn there any more";
 }
 
 TEST_F(CanvasViewPointer, AClickPressesTheFirstItemOfThatTitleAndClosesThePanel) {
