@@ -123,8 +123,11 @@ TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOve
     const std::string fits(25, 'x');
     const std::string tooLong = "W" + std::string(65, 'x');
     addItem(fits);
+    open();
+    EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(25 * 0.6 * 14) + 80 + 10);
     addItem(tooLong);
     open();
+    EXPECT_NE(context.find(tooLong.substr(0, 25) + "..."), nullptr);
     EXPECT_EQ(view->currentShortM.at(1).title, tooLong.substr(0, 25) + "...");
     EXPECT_EQ(view->currentShortM.at(1).rect.width, static_cast<int>(28 * 0.6 * 14) + 80 + 10);
     // Drawing tests at 13 points, where the shorter one is too wide too; its prefix ends one character early.

@@ -196,7 +196,7 @@ TEST_F(Launch, APressInAnotherApplicationClosesThePanelWhereverThePointerIsOnASc
     for (const auto& [pointer, screen] : cases) {
         desktop.log.lines.clear();
         desktop.windows.mouse = pointer;
-        isShortcutWindowShown = true;
+        isShortcutWindowShown = delegate.isOpen = true;
         desktop.monitors.deliverGlobal(press);
         EXPECT_EQ(isShortcutWindowShown, screen.empty());
         const Lines lines{"鼠标在屏幕 " + screen + " 的范围内，隐藏窗口", "关闭快捷键窗口。。。"};
