@@ -8,14 +8,13 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <random>
 #include <utility>
 
 #include "platform/qt/JsonUserDefaults.h"
 #include "platform/xdg/Autostart.h"
 #include "tests/doubles/FakeLog.h"
+#include "tests/doubles/TemporaryFolder.h"
 #include "tests/faults/SystemCalls.h"
 
 namespace orlamo {
@@ -27,11 +26,6 @@ using Answer = SystemCalls::Answer;
 
 constexpr std::int64_t old = 1, next = 2;
 constexpr auto stored = R"({"keep": 7, "n": 1})";
-
-std::string read(const fs::path& path) {
-    std::ifstream stream(path);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 void replaceFromOutside(const fs::path& path, const std::string& text) {
     const fs::path beside = path.string() + ".tool";
@@ -62,15 +56,6 @@ constexpr Start starts[] = {{"present", stored}, {"absent", nullptr}, {"damaged"
 
 class SettingsFaults : public ::testing::Test {
 protected:
-    SettingsFaults() {
-        // In memory, where no call takes longer than the others, kills come at all of them.
-        char inMemory[] = "/dev/shm/orlamo-faults-XXXXXX";
-        char onDisk[] = "/tmp/orlamo-faults-XXXXXX";
-        folder = mkdtemp(inMemory) != nullptr ? inMemory : mkdtemp(onDisk);
-        file = folder / "config" / "settings.json";
-    }
-    ~SettingsFaults() override { fs::remove_all(folder); }
-
     void prepare(const Start& start) {
         fs::remove_all(folder / "config");
         fs::remove_all(folder / "elsewhere");
@@ -84,7 +69,7 @@ protected:
 
     /// What must hold after any write that was disturbed: one content or the other, and both the keys of before.
     void expectOldOrNew(const Start& start, const std::string& where) {
-        const std::string text = fs::exists(file) ? read(file) : "";
+        const std::string text = contentOf(file);
         if (text == (start.text != nullptr ? start.text : "")) return;
         qt::JsonUserDefaults defaults(file);
         EXPECT_EQ(defaults.integerForKey("n"), next) << where << text;
@@ -95,7 +80,7 @@ protected:
             EXPECT_EQ(qt::JsonUserDefaults(file).integerForKey("keep"), 7) << where;
         }
         if (std::strcmp(start.name, "damaged") == 0) {
-            EXPECT_EQ(read(file.string() + ".damaged"), start.text) << where;
+            EXPECT_EQ(contentOf(file.string() + ".damaged"), start.text) << where;
         }
         EXPECT_EQ(fs::is_symlink(file), start.isLink) << where;
     }
@@ -105,14 +90,15 @@ protected:
         }
     }
     void expectSaved(const Start& start, const std::string& where) {
-        EXPECT_EQ(qt::JsonUserDefaults(file).integerForKey("n"), next) << where << read(file);
+        EXPECT_EQ(qt::JsonUserDefaults(file).integerForKey("n"), next) << where << contentOf(file);
         expectKept(start, where);
         expectNoLitter(where);
     }
 
     FakeLog log;
-    fs::path folder;
-    fs::path file;
+    // In memory no call takes longer than the others: kills come at all of them.
+    const TemporaryFolder temporary;
+    const fs::path folder = temporary.path, file = folder / "config" / "settings.json";
 };
 
 // Each row: one call of one write fails in one way.
@@ -208,7 +194,7 @@ TEST_F(SettingsFaults, AThousandKillsLeaveWhatWasSavedLast) {
         const std::int64_t n = defaults.integerForKey("n");
         unreported += n != shared.saved ? 1 : 0;
         halfWritten += fs::exists(file.string() + ".new") ? 1 : 0;
-        ASSERT_TRUE(n == shared.saved || n == shared.begun) << kill << ": " << read(file);
+        ASSERT_TRUE(n == shared.saved || n == shared.begun) << kill << ": " << contentOf(file);
         ASSERT_EQ(defaults.integerForKey("keep"), 7) << kill;
         ASSERT_LE(std::distance(fs::directory_iterator(file.parent_path()), {}), 3) << kill;
         shared.saved = n;
@@ -258,7 +244,7 @@ TEST_F(SettingsFaults, AToolThatReplacesTheFileBeforeAnyCallLosesNothingAndTakes
                 SystemCalls calls([&](int each, std::string_view call) {
                     if (each < number || each >= number + times) return Answer{};
                     (where += call) += " ";
-                    auto settings = qt::SettingsJson::parse(read(file));
+                    auto settings = qt::SettingsJson::parse(contentOf(file));
                     settings->setValue("tool", ++count);
                     replaceFromOutside(file, settings->text());
                     return Answer{};
@@ -319,7 +305,7 @@ TEST_F(SettingsFaults, AnEntryOfTheSessionsStartIsWholeOrNotThereAndSaysSo) {
             }
             const std::string where = std::strerror(error) + (" at call " + std::to_string(number));
             const std::string whole = xdg::desktopEntry({.executable = "/usr/bin/orlamo"});
-            EXPECT_TRUE(fs::exists(entry) ? read(entry) == whole : !isDone) << where;
+            EXPECT_TRUE(fs::exists(entry) ? contentOf(entry) == whole : !isDone) << where;
             EXPECT_EQ(log.lines.empty(), isDone) << where;
             EXPECT_TRUE(items.SMLoginItemSetEnabled(id, true)) << where;
             EXPECT_EQ(std::distance(fs::directory_iterator(entry.parent_path()), {}), 1) << where;

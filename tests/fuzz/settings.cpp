@@ -1,45 +1,22 @@
 // The settings file as anybody may have left it: read, changed and written.
-#include <unistd.h>
-
 #include <array>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "platform/qt/JsonUserDefaults.h"
 #include "shell/settings/Settings.h"
 #include "tests/doubles/FakeLog.h"
+#include "tests/doubles/TemporaryFolder.h"
 #include "tests/fuzz/FuzzInput.h"
 
 namespace orlamo::fuzz {
-namespace {
 
 namespace fs = std::filesystem;
-
-/// In memory where there is such a place: every input writes a file.
-struct Folder {
-    Folder() {
-        std::string name = (fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()) / "orlamo-fuzz-XXXXXX";
-        require(::mkdtemp(name.data()) != nullptr, "there is a folder");
-        path = name;
-    }
-    ~Folder() { fs::remove_all(path); }
-    fs::path path;
-};
-
-std::string contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-}  // namespace
 
 void settings(std::string_view bytes) {
     const auto parsed = qt::SettingsJson::parse(bytes);
     if (parsed) require(qt::SettingsJson::parse(parsed->text()) == parsed, "settings are read as they were written");
     if (bytes.size() % 4 != 0) return;  // files take their time
 
-    static const Folder folder;
+    static const TemporaryFolder folder;
     for (const auto& entry : fs::directory_iterator(folder.path)) fs::remove(entry);
     const FakeLog log;
     const fs::path file = folder.path / "settings.json";
