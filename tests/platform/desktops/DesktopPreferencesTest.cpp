@@ -39,12 +39,6 @@ const std::string off = "off [65535, 65535, 0]";
 const std::string wm = "org.gnome.desktop.wm.keybindings ";
 const std::string mediaKeys = "org.gnome.settings-daemon.plugins.media-keys ";
 
-TEST_F(DesktopPreferencesTest, OfAnUnknownDesktopHaveNoValueAndAskNobody) {
-    EXPECT_EQ(read("openbox"), PropertyList());
-    EXPECT_EQ(source->refreshes, 0);
-    EXPECT_TRUE(log.lines.empty());
-}
-
 TEST_F(DesktopPreferencesTest, OfAKnownDesktopThatCannotBeReadHaveNoValueAndALogLine) {
     for (const auto* name : {"GNOME", "XFCE", "KDE", "MATE"}) EXPECT_EQ(read(name), PropertyList()) << name;
     EXPECT_TRUE(log.contains("The shortcuts of the desktop \"XFCE\" cannot be read"));
@@ -64,30 +58,23 @@ TEST_F(DesktopPreferencesTest, AnswerThatDomainAndKeyOnlyAndAreReadAgainAfterASy
     EXPECT_EQ(entry("XFCE", "36"), "missing");
 }
 
-TEST_F(DesktopPreferencesTest, TakeTheFirstBindingOfGnomeThatCanBeWritten) {
-    const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
-        {{"<Super>space", "XF86Keyboard"}, "on [32, 49, 262144]"},
-        {{"XF86Keyboard", "<Super>space"}, "on [32, 49, 262144]"},
-        {{"", "<Super>F1"}, "on [65535, 122, 262144]"},
-        {{"XF86Keyboard"}, "missing"},
-        {{"Super_L"}, "missing"},
-        {{""}, off},
-        {{}, off},
+TEST_F(DesktopPreferencesTest, OfGnomeAreTheFirstBindingThatCanBeWrittenOfAKeyThenOfItsStaticSibling) {
+    using Texts = std::vector<std::string>;
+    const std::vector<std::tuple<Texts, Texts, std::string>> cases = {
+        {{"<Super>space", "XF86Search"}, {}, "on [32, 49, 262144]"},
+        {{"XF86Search", "<Super>space"}, {}, "on [32, 49, 262144]"},
+        {{"", "<Super>F1"}, {}, "on [65535, 122, 262144]"},
+        {{"Super_L"}, {}, "missing"},
+        {{""}, {}, off},
+        {{}, {}, off},
+        {{""}, {"XF86Search"}, "missing"},
+        {{""}, {"XF86Search", "<Super>f"}, "on [102, 3, 262144]"},
+        {{"<Super>g"}, {"<Super>f"}, "on [103, 5, 262144]"},
     };
-    for (const auto& [texts, expected] : cases) {
-        source->settings[wm + "switch-input-source"] = texts;
-        EXPECT_EQ(entry("ubuntu:GNOME", "61"), expected) << testing::PrintToString(texts);
+    for (const auto& [texts, siblings, expected] : cases) {
+        source->settings = {{mediaKeys + "search", texts}, {mediaKeys + "search-static", siblings}};
+        EXPECT_EQ(entry("ubuntu:GNOME", "64"), expected) << testing::PrintToString(texts);
     }
-}
-
-TEST_F(DesktopPreferencesTest, MergeTheStaticSiblingOfAGnomeKey) {
-    source->settings[mediaKeys + "search"] = {""};
-    source->settings[mediaKeys + "search-static"] = {"XF86Search"};
-    EXPECT_EQ(entry("GNOME", "64"), "missing");
-    source->settings[mediaKeys + "search-static"] = {"XF86Search", "<Super>f"};
-    EXPECT_EQ(entry("GNOME", "64"), "on [102, 3, 262144]");
-    source->settings[mediaKeys + "search"] = {"<Super>g"};
-    EXPECT_EQ(entry("GNOME", "64"), "on [103, 5, 262144]");
 }
 
 TEST_F(DesktopPreferencesTest, LeaveOutWhatTheGnomeShellDoesWhenAnotherShellRuns) {
@@ -96,27 +83,6 @@ TEST_F(DesktopPreferencesTest, LeaveOutWhatTheGnomeShellDoesWhenAnotherShellRuns
     EXPECT_EQ(entry("GNOME", "32"), "on [115, 1, 262144]");
     EXPECT_EQ(entry("Budgie:GNOME", "32"), "missing");
     EXPECT_EQ(entry("Budgie:GNOME", "36"), "on [100, 2, 262144]");
-}
-
-TEST_F(DesktopPreferencesTest, OfXfceTellCommandsApartByTheirOptions) {
-    const std::vector<std::tuple<std::string, std::string, std::string>> cases = {
-        {"xfce4-screenshooter -r", "30", "on"},
-        {"xfce4-screenshooter -r", "28", "off"},
-        {"/usr/bin/xfce4-screenshooter -fc", "29", "on"},
-        {"xfce4-screenshooter -fc", "28", "off"},
-        {"xfce4-screenshooter --region -c", "31", "on"},
-        {"xfce4-screenshooter -w", "28", "off"},
-        {"xfce4-screenshooter", "28", "on"},
-        {"xfce4-appfinder --collapsed", "160", "off"},
-        {"xfce4-appfinder", "160", "on"},
-        {"xfce4-appfinder-next", "160", "off"},
-        {"", "160", "off"},
-    };
-    for (const auto& [command, id, state] : cases) {
-        source->xfconf = {{"/commands/default/<Super>r", command},
-                          {"/commands/default/<Super>r/startup-notify", "true"}};
-        EXPECT_EQ(entry("XFCE", id).substr(0, state.size()), state) << command << " " << id;
-    }
 }
 
 TEST(SharedSettings, AnswerTheFollowerWhatWasReadForTheFirstReaderAndAfterThatReadAnew) {

@@ -100,7 +100,7 @@ protected:
 };
 
 TEST_F(OpenboxHotKeysTest, AreTheActionsThatDoWhatATitleSays) {
-    // By ID the actions with their options; without an ID what no title says.
+    // By ID the actions with their options, or what they execute; without an ID what no title says.
     const std::map<std::string, std::vector<std::string>> cases = {
         {"36", {"ToggleShowDesktop", "toggleshowdesktop"}},
         {"79", {"GoToDesktop <to>left</to><wrap>no</wrap>", "DesktopLeft <wrap>no</wrap>"}},
@@ -108,25 +108,25 @@ TEST_F(OpenboxHotKeysTest, AreTheActionsThatDoWhatATitleSays) {
         {"118", {"Desktop <desktop>1</desktop>"}},
         {"121", {"GoToDesktop <to>4</to>"}},
         {"9", {"NextWindow", "NextWindow <panels>no</panels>"}},
-        {"160",
-         {"ShowMenu <menu>root-menu</menu>", "Execute <command>lxpanelctl menu</command>",
-          "Execute <command>rofi -show drun</command>"}},
+        {"160", {"ShowMenu <menu>root-menu</menu>", "$ lxpanelctl menu", "$ rofi -show drun", "$ xfce4-appfinder"}},
         {"28",
-         {"Execute <command>scrot</command>", "Execute <command>scrot -e 'xclip -selection clipboard $f'</command>",
-          "Execute <command>xfce4-screenshooter -f</command>"}},
-        {"30", {"Execute <execute>/usr/bin/scrot --select</execute>"}},
-        {"31", {"Execute <command>gnome-screenshot --area -c</command>"}},
+         {"$ scrot", "$ scrot -e 'xclip -selection clipboard $f'", "$ xfce4-screenshooter -f",
+          "$ xfce4-screenshooter"}},
+        {"29", {"$ /usr/bin/xfce4-screenshooter -fc"}},
+        {"30", {"Execute <execute>/usr/bin/scrot --select</execute>", "$ xfce4-screenshooter -r"}},
+        {"31", {"$ gnome-screenshot --area -c", "$ xfce4-screenshooter --region -c"}},
         {"",
          {"ShowDesktop", "GoToDesktop <to>up</to>", "GoToDesktop <to>5</to>", "GoToDesktop <desktop>1</desktop>",
           "SendToDesktop <to>1</to>", "NextWindow <panels>yes</panels>", "ShowMenu <menu>client-menu</menu>",
-          "Execute <command>scrot -u</command>", "Execute <command>lxpanelctl run</command>",
-          "Execute <command>rofi -show window</command>", "Execute <command>'scrot</command>",
-          "Restart <command>scrot</command>"}},
+          "$ scrot -u", "$ lxpanelctl run", "$ rofi -show window", "$ 'scrot", "Restart <command>scrot</command>",
+          "$ xfce4-screenshooter -w", "$ xfce4-appfinder --collapsed", "$ xfce4-appfinder-next", "$ "}},
     };
     for (const auto& [id, actions] : cases) {
         for (const std::string& action : actions) {
-            const auto name = action.substr(0, action.find(' '));
-            const auto keys = keysOf(keybind("W-d", name, action.substr(name.size())));
+            const bool isCommand = action.starts_with('$');
+            const auto name = isCommand ? "Execute" : action.substr(0, action.find(' '));
+            const auto rest = action.substr(std::min(action.find(' '), action.size()));
+            const auto keys = keysOf(keybind("W-d", name, isCommand ? "<command>" + rest + "</command>" : rest));
             EXPECT_EQ(keys, id.empty() ? "" : id + ":2+262144 ") << action;
         }
     }
@@ -188,7 +188,9 @@ TEST_F(OpenboxHotKeysTest, AreAnsweredWhereNoKnownDesktopIsNamed) {
     EXPECT_EQ(keys(), "36:4+262144 ");
     desktop = "";
     windowManager.name = "i3";
+    source->refreshes = 0;
     EXPECT_EQ(keys(), "no value");
+    EXPECT_EQ(source->refreshes, 0) << "nobody is asked";
 }
 
 }  // namespace
