@@ -66,7 +66,7 @@ TEST_F(UpdaterControllerTest, WithoutAFeedOnlyTheUserHearsThatUpdatesComeWithThe
 
 TEST_F(UpdaterControllerTest, ANewVersionIsShownWithItsNotesAndAButtonThatOpensItsPage) {
     const QByteArray more = "<link>https://127.0.0.1/2.0?a=b%20c</link><description>&lt;p&gt;News</description>";
-    const FeedServer server(Speaks::http, says(httpAnswer(feed({item("2.0", "beta", more)}))));
+    const FeedServer server(Speaks::http, says(httpAnswer(feed({item("2.0", "beta", more), item("3", "nightly")}))));
     bundle.info["CFBundleShortVersionString"] = std::string("1.9");
     bundle.strings["update.newVersion.title"] = "%@ is out";
     useFeed(server.url());

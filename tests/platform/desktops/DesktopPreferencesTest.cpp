@@ -64,7 +64,7 @@ TEST_F(DesktopPreferencesTest, OfGnomeAreTheFirstBindingThatCanBeWrittenOfAKeyTh
         {{"<Super>space", "XF86Search"}, {}, "on [32, 49, 262144]"},
         {{"XF86Search", "<Super>space"}, {}, "on [32, 49, 262144]"},
         {{"", "<Super>F1"}, {}, "on [65535, 122, 262144]"},
-        {{"Super_L"}, {}, "missing"},
+        {{"Super_L", ""}, {}, "missing"},
         {{""}, {}, off},
         {{}, {}, off},
         {{""}, {"XF86Search"}, "missing"},
