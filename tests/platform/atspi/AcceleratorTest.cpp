@@ -71,20 +71,5 @@ TEST(Accelerator, TheActiveLayoutSaysWhichCharactersNeedShift) {
     EXPECT_EQ(parseShortcut("Ctrl+1", french), (Shortcut{1, "1", 0})) << "its base key has no text";
 }
 
-TEST(KeyBinding, GtkKeepsTheShortcutInItsThirdPart) {
-    EXPECT_EQ(parseKeyBinding("n;<Alt>f:n;<Primary>n").shortcut, "<Primary>n");
-    EXPECT_EQ(parseKeyBinding("t;<Alt>f:t;").shortcut, "");
-    EXPECT_EQ(parseKeyBinding(";;<Control>n").shortcut, "<Control>n");
-}
-
-TEST(KeyBinding, AnAltLetterOfQtMayBeTheMnemonic) {
-    EXPECT_EQ(parseKeyBinding("Alt+M").possibleMnemonic, "M");
-    EXPECT_EQ(parseKeyBinding("Alt+ä").possibleMnemonic, "ä");
-    for (const char* const text : {"Alt+Left", "Alt+Shift+M", "Ctrl+M", "m;<Alt>f:m;<Alt>m", "Alt+"}) {
-        EXPECT_EQ(parseKeyBinding(text).possibleMnemonic, "") << text;
-    }
-    EXPECT_EQ(parseKeyBinding("Ctrl+;").shortcut, "Ctrl+;");
-}
-
 }  // namespace
 }  // namespace orlamo::atspi

@@ -78,12 +78,14 @@ TEST_F(MenuReading, GivesTheMenusThatPeopleSeeWhateverTheToolkitSays) {
         {"the padding and the hidden items of GTK are left out",
          holding("File",
                  {item("New      ", "n;<Alt>f:n;<Primary>n", closed), item("Ghost", ";;<Primary>g"),
+                  item("Test", "t;<Alt>f:t;", closed), item("Move", "v;<Alt>f:v;<Alt>m", closed),
                   item("  ", ";;F8", closed), holding("Only", {item("One", ";;<Primary>1", closed)}, ObjectRole::menu)},
                  ObjectRole::menu),
-         "File[:[New(0N) Only[One(01)]]]"},
+         "File[:[New(0N) ? Move(10M) Only[One(01)]]]"},
         {"a mnemonic of Qt is no shortcut, but an Alt key that the name lacks is",
-         holding("Go", {item("Mark", "Alt+M"), item("Find", "Alt+I"), item("Lookup", "Alt+u")}),
-         "Go[:[Mark Find(10I) ?]]"},
+         holding("Go", {item("Mark", "Alt+M"), item("Find", "Alt+I"), item("Lookup", "Alt+u"), item("Äpfel", "Alt+Ä"),
+                        item("To the Left", "Alt+Left"), item("M", "Ctrl+;")}),
+         "Go[:[Mark Find(10I) ? Äpfel To the Left(10) M(0;)]]"},
         {"without a title", holding("", {item("New", "Ctrl+N"), item("Open", "Ctrl+O")}), "?[:[New(0N) Open(0O)]]"},
     };
     for (const auto& [why, title, expected] : cases) {
