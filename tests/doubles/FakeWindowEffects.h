@@ -22,20 +22,18 @@ public:
         }
         return image;
     }
-    std::optional<PixelRect> focusedArea() override { return focusedWindow; }
+    std::optional<PixelRect> focusedArea() override { return std::nullopt; }
     void shapeRounded(NativeWindow, int, int, int radius) override { shapes.push_back(radius); }
     void giveFocus(NativeWindow window) override { focused.push_back(window); }
-    void introduce(NativeWindow, std::string_view, Listing listing) override { listings.push_back(listing); }
+    void introduce(NativeWindow, std::string_view, Listing) override {}
 
     bool composited = false;
     bool blurs = false;
     std::function<std::uint32_t(int x, int y)> screen;  // 0xffRRGGBB; unset: cannot be read
-    std::optional<PixelRect> focusedWindow;
     int blurRequests = 0;
     std::vector<PixelRect> copies;
     std::vector<int> shapes;
     std::vector<NativeWindow> focused;
-    std::vector<Listing> listings;
 
 private:
     Installation installation_{*this};

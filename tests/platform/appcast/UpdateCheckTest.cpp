@@ -190,17 +190,5 @@ TEST_F(UpdateCheckTest, ARequestSaysNoMoreThanItMust) {
     }
 }
 
-TEST_F(UpdateCheckTest, DestroyingItCancelsIt) {
-    const FeedServer server(Speaks::http, says(httpAnswer(feed({}))));
-    bool answered = false;
-    {
-        UpdateCheck check({Transport::httpsOrLoopback, limits}, "1.2.0", {});
-        check.start(server.url(), [&](const CheckResult&) { answered = true; });
-        turnEventLoopUntil([&] { return server.connections == 1; });
-    }
-    turnEventLoopUntil([&] { return server.connections == 0; });
-    EXPECT_FALSE(answered);
-}
-
 }  // namespace
 }  // namespace orlamo::appcast
