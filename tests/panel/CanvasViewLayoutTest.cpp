@@ -140,8 +140,11 @@ TEST_F(CanvasViewLayout, APrefixOfJust147PointsIsNotOverItAndAListWithoutANameHa
     open();
     EXPECT_EQ(view->currentShortM.at(0).title, std::string(22, 'x') + "...") << "21 make 147";
     appMenuItems.pop_back();
+    addItem("Wide");
+    desktop.metrics.width = 15;  // 150 points for the first character alone
     draw();
-    EXPECT_EQ(view->currentShortM.size(), 1U);
+    ASSERT_EQ(view->currentShortM.size(), 2U);
+    EXPECT_EQ(view->currentShortM[1].title, "W...");
 }
 
 TEST_F(CanvasViewLayout, WithoutTheSessionMenuTheFirstFiveEntriesAreTakenOutButNeverTheName) {
