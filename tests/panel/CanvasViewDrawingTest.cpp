@@ -178,9 +178,9 @@ TEST_F(CanvasViewDrawing, SystemEntriesFollowTheSameRules) {
     addSystem("Keyboard//Behind");
     systemKeyCombos.resize(2);
     open();
-    EXPECT_NE(context.find("Leiste"), nullptr);
     EXPECT_NE(context.find("Tastatur"), nullptr);
     ASSERT_EQ(view->shortcutsM.size(), 1U) << "without a key there is no record, and the combinations end";
+    EXPECT_EQ(context.find("Leiste")->origin.y, view->shortcutsM[0].rect.y + 2);
     EXPECT_NE(context.find("Last"), nullptr) << "drawn, but without a record";
     EXPECT_EQ(context.find("Behind"), nullptr);
     view->isMouseInsideRect = true;

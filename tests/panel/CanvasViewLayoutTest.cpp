@@ -32,8 +32,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(TierCase{0, {1, 40, 16, 13, 20, 40, false}}, TierCase{1, {1, 1, 30, 14, 70, 30, false}},
                     TierCase{16, {1, 16, 30, 14, 70, 30, false}}, TierCase{17, {1, 17, 25, 14, 60, 40, false}},
                     TierCase{24, {1, 24, 25, 14, 60, 40, false}}, TierCase{25, {1, 25, 23, 14, 100, 40, false}},
-                    TierCase{33, {1, 33, 25, 14, 80, 40, false}}, TierCase{36, {1, 36, 23, 14, 100, 40, false}},
-                    TierCase{37, {2, 19, 23, 14, 30, 36, false}}, TierCase{39, {2, 20, 25, 14, 70, 30, false}},
+                    TierCase{33, {1, 33, 25, 14, 80, 40, false}}, TierCase{34, {1, 34, 23, 14, 100, 40, false}},
+                    TierCase{36, {1, 36, 23, 14, 100, 40, false}}, TierCase{37, {2, 19, 23, 14, 30, 36, false}},
+                    TierCase{38, {2, 19, 25, 14, 70, 30, false}}, TierCase{39, {2, 20, 25, 14, 70, 30, false}},
                     TierCase{40, {2, 20, 22, 14, 60, 35, false}}, TierCase{41, {2, 21, 25, 14, 50, 40, false}},
                     TierCase{67, {2, 34, 25, 14, 50, 40, false}}, TierCase{68, {2, 34, 22, 14, 60, 40, false}},
                     TierCase{79, {2, 40, 22, 14, 60, 40, false}}, TierCase{80, {2, 40, 25, 14, 30, 40, false}},
@@ -79,6 +80,7 @@ TEST_F(CanvasViewLayout, EveryColumnStartsBehindTheWidthsAndGapsBeforeIt) {
         x += view->shortcutsM[first].rect.width + 20;
     }
     EXPECT_EQ(view->tempRect->width, x - 20 + 30) << "no gap behind the last column";
+    EXPECT_EQ(context.fills.at(1).path.elements[3].point.x + 5, x - 20) << "the system's bar is above all of them";
 }
 
 TEST_F(CanvasViewLayout, HeadingsAndTitlelessEntriesAreMeasuredAsAPlaceholder) {
