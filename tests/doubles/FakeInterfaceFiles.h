@@ -122,7 +122,10 @@ public:
 class FakeScrollView : public FakeControlOf<ScrollView> {
 public:
     void setVerticalScrollElasticity(Elasticity value) override { elasticity = value; }
-    void setDocumentView(InterfaceView& view) override { documents.push_back(&view); }
+    void setDocumentView(InterfaceView& view) override {
+        documents.push_back(&view);
+        scrolledTo.clear();
+    }
     Rect documentViewBounds() const override {
         if (documents.empty()) return {};
         const Size size = documents.back()->size();
@@ -133,7 +136,7 @@ public:
 
     Elasticity elasticity = Elasticity::automatic;
     std::vector<InterfaceView*> documents;  // the last one is shown
-    std::vector<Point> scrolledTo;
+    std::vector<Point> scrolledTo;          // with the last one
     std::vector<Point> scrolledBy;
 };
 

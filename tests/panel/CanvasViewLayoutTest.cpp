@@ -95,13 +95,13 @@ TEST_F(CanvasViewLayout, EachColumnIsAsWideAsItsOwnWidestTitle) {
     addItems(40);  // two columns of 21
     desktop.bundle.strings["Name"] = "A localized name";
     addSystem("Keyboard//Name", "⌃", "A", 0, 0x40000);
-    addSystems(21);
+    addSystems(42);
     open();
     const auto widthOf = [](int characters, int frame) { return static_cast<int>(characters * 0.6 * 14) + frame + 10; };
     EXPECT_EQ(view->currentShortM.at(0).rect.width, widthOf(16, 80));
     EXPECT_EQ(view->currentShortM.at(21).rect.width, widthOf(7, 80));
     EXPECT_EQ(view->shortcutsM.at(0).rect.width, widthOf(16, 90));
-    EXPECT_EQ(view->shortcutsM.at(21).rect.width, widthOf(5, 90));
+    for (const std::size_t next : {21U, 42U}) EXPECT_EQ(view->shortcutsM.at(next).rect.width, widthOf(5, 90));
 }
 
 TEST_F(CanvasViewLayout, InTheDenseTierTheFirstSystemColumnIsNarrower) {
@@ -137,11 +137,13 @@ TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOve
 }
 
 TEST_F(CanvasViewLayout, APrefixOfJust147PointsIsNotOverItAndAListWithoutANameHasOnlyEntries) {
-    desktop.metrics.width = 0.7;
     addItem(std::string(66, 'x'));
-    open();
-    EXPECT_EQ(view->currentShortM.at(0).title, std::string(22, 'x') + "...") << "21 make 147";
-    appMenuItems.pop_back();
+    for (const auto& [width, characters] : {std::pair(0.7, 22), std::pair(0.74, 20)}) {
+        desktop.metrics.width = width;
+        open();
+        EXPECT_EQ(view->currentShortM.at(0).title, std::string(characters, 'x') + "...") << "21 make 147, 20 make 148";
+        appMenuItems.pop_back();
+    }
     addItem("Wide");
     desktop.metrics.width = 15;  // 150 points for the first character alone
     draw();

@@ -118,7 +118,9 @@ TEST_F(Settings, HelpShowsATransientPopoverAboveItsButtonAndLeadsToItsPage) {
     EXPECT_FALSE(files.popovers[0]->isAlive);
     const FakePopoverRecord& shown = *files.popovers[1];
     EXPECT_EQ(shown.behavior, Popover::Behavior::transient);
-    EXPECT_NE(dynamic_cast<PopoverViewController*>(shown.content), nullptr);
+    const auto* const content = dynamic_cast<PopoverViewController*>(shown.content);
+    ASSERT_NE(content, nullptr);
+    EXPECT_FALSE(content->popover.expired());
     EXPECT_EQ(shown.rect, button.area);
     EXPECT_EQ(shown.control, &button);
     EXPECT_EQ(shown.edge, RectEdge::maxY);
