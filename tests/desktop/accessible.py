@@ -116,6 +116,10 @@ class AccessibleApplication:
         return next((element for _, named, element in self.elements()
                      if named == name and self.has_state(element, SHOWING)), None)
 
+    def area_of(self, element):
+        """(x, y, width, height) on the screen."""
+        return call(self.bus, *element, "org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)))[0]
+
     def press(self, element):
         """As a screen reader presses it."""
         call(self.bus, *element, "org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))

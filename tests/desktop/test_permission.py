@@ -5,6 +5,7 @@ import accessible
 from case import DesktopTest
 from screen import wait_until
 
+BEHIND = (200, 40, 120)
 OFF, ON = "没有开启辅助功能", "已开启辅助功能"
 
 
@@ -16,6 +17,16 @@ class Permission(DesktopTest):
 
     def wait_for_window(self):
         return wait_until(self.program.permission_window, 5, "permission window")
+
+    def assert_round_and_of_one_size(self, window):
+        x, y, width, height = self.screen.geometry_of(window)
+        picture = self.screen.picture((x, y, width, height))
+        for corner in ((3, 3), (width - 4, 3), (3, height - 4), (width - 4, height - 4)):
+            self.assertEqual(BEHIND, picture.getpixel(corner))
+        self.assertNotEqual(BEHIND, picture.getpixel((width // 2, 3)))
+        hints = window.get_wm_normal_hints()
+        self.assertEqual(2 * [(width, height)],
+                         [(hints.min_width, hints.min_height), (hints.max_width, hints.max_height)])
 
     def assert_granted(self):
         """The window has closed itself, and the panel works without a restart."""
@@ -46,6 +57,7 @@ class Permission(DesktopTest):
         self.screen.tap("space")  # meant for another program
         self.settle()
         self.assertFalse(accessible.is_on(self.session.session_bus))
+        self.assert_round_and_of_one_size(window)
         self.screen.tap("Tab")  # the check box, which would do the same
         self.screen.tap("Tab")
         self.screen.tap("space")

@@ -1,10 +1,11 @@
 """The preferences, used as a person without a mouse or with a screen reader uses them."""
 from accessible import CHECK_BOX, CHECKED, SENSITIVE, AccessibleApplication
 from case import DesktopTest
-from screen import wait_until
+from screen import near, wait_until
 from texts import texts
 
 TEXTS = texts()
+LIT = (58, 59, 62)  # a card that is chosen; the others are darker
 # The check boxes by the keys of their texts, and the settings they write.
 BOXES = (("settings.login", "isLaunchAtLoginEnabled"), ("settings.hide_icon", "isHiddenStatusBar"),
          ("settings.taskbar", "dockIcon"), ("settings.blur", "isBlurStyle"),
@@ -12,7 +13,8 @@ BOXES = (("settings.login", "isLaunchAtLoginEnabled"), ("settings.hide_icon", "i
 
 
 class Preferences(DesktopTest):
-    settings = {"isFirstLaunch": True, "isBlurStyle": True, "LastUpdateCheckDate": "2026-01-01T00:00:00+0000"}
+    settings = {"isFirstLaunch": True, "isBlurStyle": True, "doubleModifierKey": "Shift",
+                "LastUpdateCheckDate": "2026-01-01T00:00:00+0000"}
 
     def setUp(self):
         super().setUp()
@@ -22,7 +24,10 @@ class Preferences(DesktopTest):
         self.reader = AccessibleApplication(self.session.accessibility_bus, program.pid)
 
     def find(self, key):
-        return wait_until(lambda: self.reader.element(TEXTS[key]), 5, f"{TEXTS[key]!r} on the screen")
+        return self.find_text(TEXTS[key])
+
+    def find_text(self, text):
+        return wait_until(lambda: self.reader.element(text), 5, f"{text!r} on the screen")
 
     def box(self, key):
         """A check box that may have to be scrolled to."""
@@ -77,13 +82,12 @@ class Preferences(DesktopTest):
         for _ in range(3):
             self.screen.tap("Up")
         self.find("settings.general")
-        self.tab_to("Command")
-        self.screen.tap("Down")
-        self.screen.tap("Down")
-        self.wait_for_setting("doubleModifierKey", "Shift")
+        self.tab_to("Shift")
+        self.screen.tap("Up")
+        self.wait_for_setting("doubleModifierKey", "Control")
         self.screen.close_window(self.program.preferences())
         self.session.open_editor("mousepad")
-        self.program.open_panel(self.screen.SHIFT)
+        self.program.open_panel(self.screen.SUPER)
 
     def test_the_slider_shows_and_stores_the_corner_radius(self):
         self.tab_to(TEXTS["settings.radius"])
@@ -101,8 +105,31 @@ class Preferences(DesktopTest):
                 self.screen.wheel_down()
         self.find("settings.updates")
         self.assertNotIn("CornerRadius", self.program.settings())
-        self.assertNotIn("doubleModifierKey", {key: value for key, value in self.program.settings().items()
-                                               if value != "Command"})
+        self.assertEqual("Shift", self.program.settings()["doubleModifierKey"])
+
+    def test_an_application_of_the_publisher_is_chosen_by_key_and_press(self):
+        self.tab_to(TEXTS["tab.types.settings"])
+        self.screen.tap("Down")
+        self.screen.tap("Down")
+        self.tab_to(TEXTS["freeapps.more"])
+        self.tab_to(TEXTS["tab.types.free_apps"])
+        self.screen.tap("Down")
+        wait_until(lambda: self.chosen_cards() == ["Orlamo"], 5, "first card")
+        self.screen.tap("Down")
+        wait_until(lambda: self.chosen_cards() == ["Tavlumi"], 5, "second card")
+        self.screen.click(*self.reader.area_of(self.find_text("Brenquo"))[:2])
+        wait_until(lambda: self.chosen_cards() == ["Brenquo"], 5, "third card")
+        self.screen.tap("space")
+        wait_until(lambda: not self.chosen_cards(), 5, "no card")
+        self.screen.tap("End")
+        wait_until(lambda: self.chosen_cards() == ["Yarpeno"], 5, "last card")
+
+    def chosen_cards(self):
+        """The names of those that are lit, as seen a little above the name."""
+        self.screen.move_pointer(0, 0)
+        shown = filter(None, map(self.reader.element, ("Orlamo", "Tavlumi", "Brenquo", "Yarpeno")))
+        places = {self.reader.name_of(card): self.reader.area_of(card) for card in shown}
+        return [name for name, (x, y, _, _) in places.items() if near(self.screen.pixel(x, y - 2), LIT, 5)]
 
     def test_the_help_opens_beside_its_button_and_closes_with_escape_or_a_click_elsewhere(self):
         self.tab_to(TEXTS["settings.help"])

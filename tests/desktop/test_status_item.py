@@ -3,12 +3,13 @@ import io
 
 from case import DesktopTest
 from PIL import Image
-from screen import count_near, wait_until
+from screen import count_near, near, wait_until
 from session import PATIENCE
 from tray import NotifierHost, XEmbedTray
 
 SOON = 2  # seconds in which the icon is in a panel that has come
 SETTINGS, UPDATE, QUIT = "Settings…", "Check for Updates…", "Quit Orlamo"
+LIGHT, DARK = (230, 230, 230), (46, 46, 46)  # for a dark panel and for a light one
 
 
 class StatusItem(DesktopTest):
@@ -35,8 +36,9 @@ class StatusItem(DesktopTest):
 
     def assert_colours(self):
         self.start_program()
-        for background, colors, ink in ((0x202020, None, (230, 230, 230)), (0xf0f0f0, None, (46, 46, 46)),
-                                        (0x202020, (90, 200, 120), (90, 200, 120))):
+        for background, colors, ink in ((0x202020, None, LIGHT), (0xf0f0f0, None, DARK), (0x0000ff, None, LIGHT),
+                                        (0x00ff00, None, DARK), (0x202020, 4 * (90, 200, 120), (90, 200, 120)),
+                                        (0xf0f0f0, (90, 200), DARK)):
             tray = XEmbedTray(self.session, background, colors).start()
             try:
                 wait_until(lambda: count_near(self.picture_of_icon(tray), ink) > 60, SOON, f"ink on {background:x}")
@@ -52,6 +54,9 @@ class StatusItem(DesktopTest):
         sizes = [(width, height) for width, height, data in item.property("IconPixmap")
                  if len(data) == 4 * width * height and any(data[0::4])]
         self.assertLessEqual({(22, 22), (48, 48)}, set(sizes))
+        # Alpha, red, green, blue; the colour is whole also where it is thin.
+        pixels = [data[i:i + 4] for _, _, data in item.property("IconPixmap") for i in range(0, len(data), 4)]
+        self.assertTrue(all(near(pixel[1:], LIGHT) for pixel in pixels if pixel[0] > 40))
 
         entries = item.entries()
         self.assertEqual([SETTINGS, UPDATE, None, QUIT], [entry.get("label") for entry in entries])

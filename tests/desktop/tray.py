@@ -143,7 +143,7 @@ class XEmbedTray:
     SIZE = 32  # pixels, of an icon
 
     def __init__(self, session, background=0x202020, colors=None):
-        """`colors`: the panel's own foreground as (red, green, blue) of 8 bits each, when it tells one."""
+        """`colors`: what the panel tells of its own colours, each as red, green, blue of 8 bits, its foreground first."""
         self._session = session
         self._background = background
         self._colors = colors
@@ -162,7 +162,7 @@ class XEmbedTray:
             event_mask=X.SubstructureNotifyMask)
         if self._colors:
             self._window.change_property(self._atoms["_NET_SYSTEM_TRAY_COLORS"], Xatom.CARDINAL, 32,
-                                         [part * 257 for part in self._colors] * 4)
+                                         [part * 257 for part in self._colors])
         self._window.map()
         self._icons = []
         selection = self._atoms["_NET_SYSTEM_TRAY_S0"]

@@ -130,17 +130,6 @@ TEST_F(Host, AWindowBeyondWhatCanBeShownIsCutToTheScreenAndItsCoordinatesStay) {
     EXPECT_EQ(view->pressed->y, -window.frame().y);
 }
 
-TEST_F(Host, TheFocusGoesToTheNextWindowShownAfterAnActivation) {
-    program.activate(Application::IgnoringOtherApps::yes);
-    EXPECT_TRUE(effects.focused.empty());
-    show();
-    ASSERT_EQ(effects.focused.size(), 1U);
-    EXPECT_EQ(effects.focused[0], native().winId());
-    window.close();
-    window.orderFront();
-    EXPECT_EQ(effects.focused.size(), 1U) << "nobody asked again";
-}
-
 TEST_F(Host, ClosingInTheMiddleOfAPressIsSafe) {
     struct Closing : View {
         using View::View;

@@ -118,7 +118,6 @@ protected:
         view = qt::makeCollectionView(*widget);
         view->flowLayout()->itemSize = {580, 80};
         view->flowLayout()->minimumLineSpacing = 0;
-        view->setSelectable(true);
         view->setDataSource(*this);
         widget->show();
     }
@@ -130,14 +129,6 @@ protected:
         auto item = std::make_unique<Page>();
         views.push_back(&item->widget());
         return item;
-    }
-    /// Whether each item is shown as selected.
-    std::vector<bool> highlighted() {
-        const QImage image = picture(*widget);
-        std::vector<bool> result;
-        for (const QPointer<QWidget>& each : views)
-            result.push_back(image.pixelColor(each->geometry().center()).alpha() > 0);
-        return result;
     }
 
     PlainInterfaceFiles files;
@@ -153,19 +144,6 @@ TEST_F(Collection, AsksForEachItemOnceIsAsHighAsTheyNeedAndTakesThemWithIt) {
     EXPECT_EQ(views[2]->geometry(), QRect(10, 160, 580, 80));
     widget.reset();
     EXPECT_FALSE(views[0]);
-}
-
-TEST_F(Collection, OneItemIsSelectedByPressAndKey) {
-    press(*views[1], {10, 10});
-    EXPECT_EQ(highlighted(), (std::vector<bool>{false, true, false}));
-    for (int i = 0; i < 2; ++i) pressKey(*widget, Qt::Key_Down);
-    EXPECT_EQ(highlighted(), (std::vector<bool>{false, false, true}));
-    press(*widget, {2, 2});
-    EXPECT_EQ(highlighted(), (std::vector<bool>{false, false, false}));
-    view->setAllowsEmptySelection(false);
-    press(*views[0], {10, 10});
-    press(*widget, {2, 2});
-    EXPECT_EQ(highlighted(), (std::vector<bool>{true, false, false}));
 }
 
 TEST(CollectionGrid, FillsLinesInTheMiddleAndBeginsOneForEachSection) {

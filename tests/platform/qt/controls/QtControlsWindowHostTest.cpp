@@ -76,26 +76,6 @@ TEST_F(ControlsWindows, TheUsersCloseIsTheControllersToRefuse) {
     EXPECT_EQ(page.appearances, 2);
 }
 
-TEST_F(ControlsWindows, AWindowThatIsReleasedWhenClosedMayGoInTheMiddleOfItsClosing) {
-    open().isReleasedWhenClosed = true;
-    EXPECT_TRUE(native().close());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(page.widget().size(), QSize(300, 200));
-}
-
-TEST_F(ControlsWindows, AClearWindowIsCutToItsRoundedContentWhereNothingIsBlended) {
-    page.view().wantsLayer = page.view().layer.masksToBounds = true;
-    page.view().layer.cornerRadius = 30;
-    open(Window::borderless).close();
-    EXPECT_TRUE(effects.shapes.empty()) << "an opaque window";
-    window->isOpaque = false;
-    window->backgroundColor = Color::clearColor();
-    window->orderFront();
-    ASSERT_FALSE(effects.shapes.empty());
-    EXPECT_EQ(effects.shapes.back(), 30);
-    EXPECT_EQ(native().maximumSize(), QSize(300, 200)) << "its style has no resizing";
-}
-
 TEST_F(ControlsWindows, ActivationWaitsForTheNextWindowOfTheTurnAndElseTakesTheFrontmost) {
     open();
     const NativeWindow own = native().winId();
