@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <string>
@@ -125,11 +126,13 @@ private:
     Installation installation_{*this};
 };
 
-/// Every code point is one character, `width` times the point size wide.
+/// Every code point is one character, `width` times the point size wide; the joined one makes a text narrower by two.
 class FakeTextMetrics : public TextMetrics {
 public:
     Size measure(std::string_view text, int pointSize) override {
-        return {static_cast<double>(characterEnds(text).size()) * width * pointSize, 1.2 * pointSize};
+        const auto joinedOnes = std::ranges::count(text, joined);
+        const auto characters = static_cast<double>(std::ssize(characterEnds(text)) - 3 * joinedOnes);
+        return {characters * width * pointSize, 1.2 * pointSize};
     }
     std::vector<std::size_t> characterEnds(std::string_view text) override {
         std::vector<std::size_t> ends;
@@ -140,6 +143,7 @@ public:
         return ends;
     }
     double width = 0.6;
+    char joined = '\0';
 
 private:
     Installation installation_{*this};

@@ -14,7 +14,9 @@ protected:
     std::vector<Rect> hoverFills() const {
         std::vector<Rect> rects;
         for (const auto& fill : context.fills) {
-            if (fill.color == Color::systemBlueColor()) rects.push_back(fill.path.elements.at(0).rect);
+            if (fill.color != Color::systemBlueColor()) continue;
+            rects.push_back(fill.path.elements.at(0).rect);
+            EXPECT_EQ(fill.path, Path::roundedRect(rects.back(), 5));
         }
         return rects;
     }

@@ -70,6 +70,7 @@ TEST_F(CanvasViewLayout, EveryColumnStartsBehindTheWidthsAndGapsBeforeIt) {
     double x = 0;
     for (const std::size_t first : {0U, 31U, 62U, 93U}) {
         EXPECT_EQ(cells[first].rect.x, x);
+        EXPECT_GT(cells[first].rect.width, 80);
         EXPECT_EQ(cells[first].rect.y, cells[0].rect.y) << "columns start at the same height";
         x += cells[first].rect.width + 20;
     }
@@ -149,6 +150,13 @@ TEST_F(CanvasViewLayout, APrefixOfJust147PointsIsNotOverItAndAListWithoutANameHa
     draw();
     ASSERT_EQ(view->currentShortM.size(), 2U);
     EXPECT_EQ(view->currentShortM[1].title, "W...");
+}
+
+TEST_F(CanvasViewLayout, ALigatureBehindTheFirstPrefixThatIsTooWideHidesItNot) {
+    desktop.metrics.joined = 'j';
+    addItem(std::string(25, 'x') + "j" + std::string(40, 'x'));  // 25 make 150 points, 26 and 27 less than 147
+    open();
+    EXPECT_EQ(view->currentShortM.at(0).title, std::string(25, 'x') + "...");
 }
 
 TEST_F(CanvasViewLayout, WithoutTheSessionMenuTheFirstFiveEntriesAreTakenOutButNeverTheName) {

@@ -138,7 +138,7 @@ TEST(RowView, IsLightUnderThePointerAndDarkWhenSelected) {
 TEST(GradientView, EveryPropertyFromTheFileReachesTheLayer) {
     GradientView view;
     view.awakeFromNib();
-    ASSERT_EQ(view.layer, view.GradientLayer);
+    ASSERT_TRUE(view.wantsLayer && view.layer == view.GradientLayer);
     const GradientLayer& layer = *view.GradientLayer;
     RecordingGraphicsContext context;
     view.display(context);
