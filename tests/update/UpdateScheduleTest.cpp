@@ -52,7 +52,10 @@ TEST_F(UpdateScheduleTest, ACheckIsDueOnceTheStampIsMoreThanFiveDaysOld) {
         EXPECT_EQ(isDue(std::string("2024-03-05T14:07:09+0800"), stamped + age), due) << age;
         EXPECT_EQ(log.lines, Lines{std::string("现在是否是应用程序更新的时候？ ") + (due ? "true" : "false")});
     }
-    EXPECT_FALSE(isDue(std::string("2024-03-05T05:08:09-0059"), stamped + 432000));
+    for (const char* const same :
+         {"2024-03-05T05:08:09-0059", "2024-03-05T23:59:09+1752", "2024-03-04T06:59:09-2308"}) {
+        EXPECT_FALSE(isDue(std::string(same), stamped + 432000)) << same;
+    }
 }
 
 TEST_F(UpdateScheduleTest, WithoutAReadableStampACheckIsDueAndNothingIsLogged) {
