@@ -105,7 +105,9 @@ TEST_F(CanvasViewDrawing, AMenuHeadingIsABarAndASubmenuHeadingATriangle) {
     addHeading("Edit");
     addHeading("Edit/Find/Again");
     addItem("Next");
+    addHeading("Edit//Odd");
     open();
+    EXPECT_EQ(context.find("/Odd"), nullptr);
     const double y = view->currentShortM.at(0).rect.y;
     EXPECT_EQ(context.find("Edit")->pointSize, 16);
     EXPECT_EQ(context.find("Edit")->origin, (Point{20, y + 60 + 1}));

@@ -47,7 +47,7 @@ TEST_F(CanvasViewPointer, EveryMoveAsksForAPassAndLeavingEndsTheHighlight) {
     open();
     draw();
     view->mouseEntered({});
-    EXPECT_TRUE(view->needsDisplay());
+    EXPECT_TRUE(view->needsDisplay() && view->isMouseInsideRect);
     for (int move = 0; move < 2; ++move) {  // the first one enters, too
         draw();
         moveTo(view->currentShortM.at(0).rect);
