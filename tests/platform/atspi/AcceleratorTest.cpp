@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 namespace orlamo::atspi {
 namespace {
 
@@ -9,47 +11,26 @@ std::optional<Shortcut> parse(std::string_view text) {
     return parseShortcut(text, baseKeyOfShiftedOnUsLayout);
 }
 
-struct Row {
-    const char* text;
-    std::int64_t modifiers;
-    const char* character;
-    std::int64_t glyph = 0;
-};
-
-class Accelerator : public testing::TestWithParam<Row> {};
-
-TEST_P(Accelerator, BecomesTheModifierNumberAndTheKey) {
-    const auto shortcut = parse(GetParam().text);
-    ASSERT_TRUE(shortcut) << GetParam().text;
-    EXPECT_EQ(shortcut->modifiers, GetParam().modifiers) << GetParam().text;
-    EXPECT_EQ(shortcut->character, GetParam().character) << GetParam().text;
-    EXPECT_EQ(shortcut->glyph, GetParam().glyph) << GetParam().text;
+// "modifiers:key", and "#glyph" where there is one.
+std::string told(std::string_view text) {
+    const auto shortcut = parse(text);
+    if (!shortcut) return "none";
+    return std::to_string(shortcut->modifiers) + ":" + shortcut->character +
+           (shortcut->glyph != 0 ? "#" + std::to_string(shortcut->glyph) : "");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Gtk, Accelerator,
-    testing::Values(Row{"<Primary>n", 0, "N"}, Row{"<Control>n", 0, "N"}, Row{"<Primary><Shift>n", 1, "N"},
-                    Row{"<Shift><Primary>Tab", 1, "⇥"}, Row{"<Alt>F4", 10, "", 114}, Row{"<Super>x", 12, "X"},
-                    Row{"<Primary><Alt><Super>x", 6, "X"}, Row{"<Release>x", 8, "X"}, Row{"<Primary>plus", 1, "="},
-                    Row{"<Primary>equal", 0, "="}, Row{"<Primary>comma", 0, ","}, Row{"<Primary>bracketleft", 0, "["},
-                    Row{"<Primary>BackSpace", 0, "⌫"}, Row{"<Alt>Return", 10, "↩"}, Row{"<Primary>space", 0, "SPACE"},
-                    Row{"Escape", 8, "⎋"}, Row{"F11", 8, "", 121}, Row{"<Primary>Page_Up", 0, "", 98},
-                    Row{"<Alt>Left", 10, "", 100}, Row{"Delete", 8, "", 10}));
-
-INSTANTIATE_TEST_SUITE_P(Qt, Accelerator,
-                         testing::Values(Row{"Ctrl+N", 0, "N"}, Row{"Ctrl+Shift+S", 1, "S"}, Row{"Ctrl++", 1, "="},
-                                         Row{"Ctrl+Shift++", 1, "="}, Row{"Ctrl+-", 0, "-"}, Row{"Ctrl+,", 0, ","},
-                                         Row{"Ctrl+;", 0, ";"}, Row{"Ctrl+?", 1, "/"}, Row{"Ctrl+Shift+=", 1, "="},
-                                         Row{"Meta+X", 12, "X"}, Row{"Ctrl+Alt+Shift+V", 3, "V"},
-                                         Row{"Shift+F3", 9, "", 113}, Row{"F5", 8, "", 115}, Row{"F13", 8, "", 135},
-                                         Row{"Ctrl+Space", 0, "SPACE"}, Row{"Ctrl+PgUp", 0, "", 98},
-                                         Row{"Ctrl+Ins", 0, "", 0}, Row{"+", 9, "="}, Row{"Ctrl+é", 0, ""},
-                                         Row{"Shift+Backtab", 9, "⇥"}));
-
-INSTANTIATE_TEST_SUITE_P(Translated, Accelerator,
-                         testing::Values(Row{"Strg+N", 0, "N"}, Row{"Strg+Umschalt+N", 1, "N"},
-                                         Row{"Ctrl+Maj+N", 1, "N"}, Row{"Ctrl+Mayús+N", 1, "N"},
-                                         Row{"Ctrl+Skift+N", 1, "N"}, Row{"Strg+Entf", 0, "", 10}));
+TEST(Accelerator, BecomesTheModifierNumberAndTheKey) {
+    std::istringstream rows(  // as GTK, Qt, and Qt in other languages write them
+        "<Primary>n 0:N  <Control>n 0:N  <Primary><Shift>n 1:N  <Shift><Primary>Tab 1:⇥  <Alt>F4 10:#114  "
+        "<Super>x 12:X  <Primary><Alt><Super>x 6:X  <Release>x 8:X  <Primary>plus 1:=  <Primary>equal 0:=  "
+        "<Primary>comma 0:,  <Primary>bracketleft 0:[  <Primary>BackSpace 0:⌫  <Alt>Return 10:↩  "
+        "<Primary>space 0:SPACE  Escape 8:⎋  F11 8:#121  <Primary>Page_Up 0:#98  <Alt>Left 10:#100  Delete 8:#10  "
+        "Ctrl+N 0:N  Ctrl+Shift+S 1:S  Ctrl++ 1:=  Ctrl+Shift++ 1:=  Ctrl+- 0:-  Ctrl+, 0:,  Ctrl+; 0:;  "
+        "Ctrl+? 1:/  Ctrl+Shift+= 1:=  Meta+X 12:X  Ctrl+Alt+Shift+V 3:V  Shift+F3 9:#113  F5 8:#115  F13 8:#135  "
+        "Ctrl+Space 0:SPACE  Ctrl+PgUp 0:#98  Ctrl+Ins 0:  + 9:=  Ctrl+é 0:  Shift+Backtab 9:⇥  "
+        "Strg+N 0:N  Strg+Umschalt+N 1:N  Ctrl+Maj+N 1:N  Ctrl+Mayús+N 1:N  Ctrl+Skift+N 1:N  Strg+Entf 0:#10");
+    for (std::string text, shortcut; rows >> text >> shortcut;) EXPECT_EQ(told(text), shortcut) << text;
+}
 
 TEST(Accelerator, WhatTheInterfaceCannotSayIsNoShortcut) {
     for (const char* const text : {"", "Ctrl+K, Ctrl+S", "Ctrl+,, Ctrl+S", "<Hyper>x", "<Meta>x", "<Primary>KP_Add",
