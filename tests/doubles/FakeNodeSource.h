@@ -1,7 +1,6 @@
 #pragma once
 
 #include <deque>
-#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -28,9 +27,6 @@ public:
     /// Answers left until the time is over.
     std::size_t answersLeft = 1'000'000'000;
     std::map<atspi::Question, int> asked;
-    /// When set, answers for children in place of `objects`.
-    using Lie = std::function<std::vector<atspi::ObjectRef>(const atspi::ObjectRef&)>;
-    Lie lie;
 
     void ask(const atspi::ObjectRef& object, atspi::Question question, Receive receive) override {
         ++asked[question];
@@ -57,7 +53,6 @@ private:
     atspi::Answer answer(const Asked& asked) const {
         using atspi::ObjectRole;
         using atspi::Question;
-        if (asked.question == Question::children && lie) return lie(ref(asked.path));
         const auto found = objects.find(asked.path);
         if (found == objects.end()) return {};
         const Object& object = found->second;

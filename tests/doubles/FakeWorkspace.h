@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,7 +29,6 @@ public:
 
     bool openURL(std::string_view address) override {
         opened.emplace_back(address);
-        if (onOpen) onOpen(opened.back());
         return openingSucceeds;
     }
 
@@ -39,7 +37,6 @@ public:
     std::vector<std::pair<int, unsigned>> activations;  // process id, options
     std::vector<std::string> opened;                    // addresses
     bool openingSucceeds = true;
-    std::function<void(const std::string&)> onOpen;
 
 private:
     Installation installation_{*this};

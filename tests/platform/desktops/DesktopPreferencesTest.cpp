@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/desktops/OpenboxConfiguration.h"
 #include "platform/desktops/SharedSettings.h"
 #include "tests/doubles/FakeLog.h"
 #include "tests/doubles/FakeSettingsSource.h"
@@ -11,6 +12,16 @@ namespace {
 
 constexpr auto domain = "com.apple.symbolichotkeys";
 constexpr auto key = "AppleSymbolicHotKeys";
+constexpr auto usual = "openbox/rc.xml";
+
+std::string configuration(const std::string& keyboard) {
+    return "<?xml version=\"1.0\"?><!-- mine --><openbox_config xmlns=\"http://openbox.org/3.4/rc\"><keyboard>" +
+           keyboard + "</keyboard></openbox_config>";
+}
+
+std::string keybind(const std::string& key, const std::string& action, const std::string& options = {}) {
+    return "<keybind key=\"" + key + "\"><action name=\"" + action + "\">" + options + "</action></keybind>";
+}
 
 class DesktopPreferencesTest : public testing::Test {
 protected:
@@ -29,10 +40,30 @@ protected:
         return (isOn ? "on " : "off ") + found->at("value")->at("parameters")->description();
     }
 
+    // The IDs that are switched on, with key code and mask: "36:2+262144 ".
+    std::string keys() {
+        const auto hotKeys = read(desktop);
+        if (hotKeys == PropertyList()) return "no value";
+        std::string texts;
+        for (const auto& [id, entry] : *hotKeys.get<PropertyList::Dictionary>()) {
+            if (!*entry.at("enabled")->get<bool>()) continue;
+            const auto& parameters = *entry.at("value")->at("parameters")->get<PropertyList::Array>();
+            texts += id + ":" + parameters[1].description() + "+" + parameters[2].description() + " ";
+        }
+        return texts;
+    }
+
+    std::string keysOf(const std::string& keyboard) {
+        source->files[usual] = configuration(keyboard);
+        return keys();
+    }
+
     FakeLog log;
     std::string desktop;
+    WindowManager windowManager{"Openbox", ""};
     FakeSettingsSource* source = new FakeSettingsSource;
-    DesktopPreferences preferences{std::unique_ptr<SettingsSource>(source), [this] { return desktop; }};
+    DesktopPreferences preferences{std::unique_ptr<SettingsSource>(source), [this] { return desktop; },
+                                   [this] { return windowManager; }};
 };
 
 const std::string off = "off [65535, 65535, 0]";
@@ -118,6 +149,150 @@ TEST(SharedSettings, AnswerTheFollowerWhatWasReadForTheFirstReaderAndAfterThatRe
     source->kde.emplace();
     EXPECT_EQ(actions(*follower), "none") << "who did not answer is not asked again";
     EXPECT_EQ(source->refreshes, 3);
+}
+
+// "C-A-Left W-Left: GoToDesktop{to=left}", one line for each binding.
+std::string told(const std::string& xml) {
+    std::string error;
+    const auto bindings = openboxBindings(xml, error);
+    if (!bindings) return error.empty() ? "no reason" : "unreadable";
+    std::string lines;
+    for (const auto& binding : *bindings) {
+        for (const auto& key : binding.keys) lines += key + " ";
+        for (const auto& action : binding.actions) {
+            lines += action.name + "{";
+            for (const auto& [name, value] : action.options) lines += name + "=" + value + ";";
+            lines += "}";
+        }
+        lines += "\n";
+    }
+    return lines;
+}
+
+TEST(OpenboxConfiguration, HasKeysWithTheirActionsAndOptions) {
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"<chainQuitKey>C-g</chainQuitKey><keybind key=\"C-A-Left  W-Left\"><action name=\"GoToDesktop\"><to> "
+         "left\n</to><to>right</to><wrap>no</wrap></action></keybind>" +
+             keybind("W-d", "Lower") + "<keybind key=\"W-e\"/>",
+         "C-A-Left W-Left GoToDesktop{to=left;wrap=no;}\nW-d Lower{}\n"},
+        // Actions inside an action, and the keys inside a chain, are left out.
+        {keybind("A-Tab", "NextWindow", "<finalactions><action name=\"Focus\"><to>1</to></action></finalactions>"),
+         "A-Tab NextWindow{finalactions=;}\n"},
+        {"<keybind key=\"W-x\">" + keybind("a", "Lower") + "<action name=\"Raise\"/></keybind>", "W-x \n"},
+        // The last section counts, and no mouse.
+        {keybind("a", "Lower") + "</keyboard><mouse>" + keybind("b", "Lower") + "</mouse><keyboard>" +
+             keybind("c", "Execute", "<command><![CDATA[a && b]]></command>"),
+         "c Execute{command=a && b;}\n"},
+    };
+    for (const auto& [keyboard, expected] : cases) EXPECT_EQ(told(configuration(keyboard)), expected);
+}
+
+TEST(OpenboxConfiguration, ThatIsNoneHasAReasonAndNoBindings) {
+    std::string deep;
+    for (int i = 0; i < 100'000; ++i) deep += "<a>";
+    const std::string tooLarge(maximumConfigurationSize + 1, ' ');
+    const auto whole = configuration(keybind("a", "Lower"));
+    for (const auto& xml : {std::string(), std::string("garbage"), std::string("\0\1\xff", 3), deep, tooLarge,
+                            whole.substr(0, whole.size() - 20), configuration("<keybind key=\"a\">"),
+                            configuration("&unknown;"), std::string("<html><keyboard/></html>")}) {
+        EXPECT_EQ(told(xml), "unreadable") << xml.substr(0, 80);
+    }
+}
+
+using OpenboxHotKeysTest = DesktopPreferencesTest;
+
+TEST_F(OpenboxHotKeysTest, AreTheActionsThatDoWhatATitleSays) {
+    // By ID the actions with their options, or what they execute; without an ID what no title says.
+    const std::map<std::string, std::vector<std::string>> cases = {
+        {"36", {"ToggleShowDesktop", "toggleshowdesktop"}},
+        {"79", {"GoToDesktop <to>left</to><wrap>no</wrap>", "DesktopLeft <wrap>no</wrap>"}},
+        {"81", {"GoToDesktop <to>next</to>", "GoToDesktop <to>East</to>"}},
+        {"118", {"Desktop <desktop>1</desktop>"}},
+        {"121", {"GoToDesktop <to>4</to>"}},
+        {"9", {"NextWindow", "NextWindow <panels>no</panels>"}},
+        {"160", {"ShowMenu <menu>root-menu</menu>", "$ lxpanelctl menu", "$ rofi -show drun", "$ xfce4-appfinder"}},
+        {"28",
+         {"$ scrot", "$ scrot -e 'xclip -selection clipboard $f'", "$ xfce4-screenshooter -f",
+          "$ xfce4-screenshooter"}},
+        {"29", {"$ /usr/bin/xfce4-screenshooter -fc"}},
+        {"30", {"Execute <execute>/usr/bin/scrot --select</execute>", "$ xfce4-screenshooter -r"}},
+        {"31", {"$ gnome-screenshot --area -c", "$ xfce4-screenshooter --region -c"}},
+        {"",
+         {"ShowDesktop", "GoToDesktop <to>up</to>", "GoToDesktop <to>5</to>", "GoToDesktop <desktop>1</desktop>",
+          "SendToDesktop <to>1</to>", "NextWindow <panels>yes</panels>", "ShowMenu <menu>client-menu</menu>",
+          "$ scrot -u", "$ lxpanelctl run", "$ rofi -show window", "$ 'scrot", "Restart <command>scrot</command>",
+          "$ xfce4-screenshooter -w", "$ xfce4-appfinder --collapsed", "$ xfce4-appfinder-next", "$ "}},
+    };
+    for (const auto& [id, actions] : cases) {
+        for (const std::string& action : actions) {
+            const bool isCommand = action.starts_with('$');
+            const auto name = isCommand ? "Execute" : action.substr(0, action.find(' '));
+            const auto rest = action.substr(std::min(action.find(' '), action.size()));
+            const auto keys = keysOf(keybind("W-d", name, isCommand ? "<command>" + rest + "</command>" : rest));
+            EXPECT_EQ(keys, id.empty() ? "" : id + ":2+262144 ") << action;
+        }
+    }
+}
+
+TEST_F(OpenboxHotKeysTest, AreWrittenInItsOwnWords) {
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"C-A-Left", "123+1572864"},         {"W-D", "2+262144"},     {"Print", "105+0"},
+        {"control-Shift-F1", "122+1179648"}, {"M-F2", "120+524288"},  {"H-Mod1-F2", "120+786432"},
+        {"XF86Mail W-d", "2+262144"},        {"W-x W-d", "7+262144"},
+    };
+    for (const auto& [key, expected] : cases) {
+        EXPECT_EQ(keysOf(keybind(key, "ToggleShowDesktop")), "36:" + expected + " ") << key;
+    }
+    for (const auto* key : {"tab", "Above_Tab", "Ctrl-d", "Mod2-d", "W-0x28", "W-", "-", ""}) {
+        EXPECT_EQ(keysOf(keybind(key, "ToggleShowDesktop")), "") << key;
+    }
+}
+
+TEST_F(OpenboxHotKeysTest, LeaveOutKeysThatDoMoreThanOneThing) {
+    const auto show = keybind("W-d", "ToggleShowDesktop");
+    const auto chain = "<keybind key=\"W-d\">" + keybind("a", "Lower") + "</keybind>";
+    EXPECT_EQ(keysOf("<keybind key=\"W-d\"><action name=\"ToggleShowDesktop\"/><action name=\"Lower\"/></keybind>"),
+              "");
+    EXPECT_EQ(keysOf(show + keybind("Super-d", "Lower")), "");
+    EXPECT_EQ(keysOf(chain + show), "");
+    EXPECT_EQ(keysOf(show + chain), "36:2+262144 ");
+}
+
+TEST_F(OpenboxHotKeysTest, AreReadFromTheFileThatItWasToldElseTheUsualOne) {
+    source->files[usual] = configuration(keybind("W-d", "ToggleShowDesktop"));
+    source->files["/home/me/lxde-rc.xml"] = configuration(keybind("W-h", "ToggleShowDesktop"));
+    source->files["mine.xml"] = configuration("");
+    for (const auto* const file : {"", "/home/me/missing.xml", "mine.xml"}) {
+        windowManager.configuration = file;
+        EXPECT_EQ(keys(), "36:2+262144 ") << file;
+    }
+    windowManager.configuration = "/home/me/lxde-rc.xml";
+    EXPECT_EQ(keys(), "36:4+262144 ");
+}
+
+TEST_F(OpenboxHotKeysTest, OfAFileThatCannotBeReadHaveNoValueAndOneLogLine) {
+    EXPECT_EQ(keys(), "no value");
+    EXPECT_EQ(log.lines, std::vector<std::string>{"The configuration of Openbox openbox/rc.xml: there is none"});
+    log.lines.clear();
+    source->files[usual] = configuration("") + std::string(2 << 20, ' ');
+    EXPECT_EQ(keys(), "no value");
+    EXPECT_EQ(log.lines.size(), 1U);
+}
+
+TEST_F(OpenboxHotKeysTest, AreAnsweredWhereNoKnownDesktopIsNamed) {
+    source->files[usual] = configuration(keybind("W-d", "ToggleShowDesktop"));
+    source->settings["org.gnome.desktop.wm.keybindings show-desktop"] = {"<Super>h"};
+    for (const auto* name : {"", "LXDE", "LXQt", "openbox"}) {
+        desktop = name;
+        EXPECT_EQ(keys(), "36:2+262144 ") << name;
+    }
+    desktop = "GNOME";
+    EXPECT_EQ(keys(), "36:4+262144 ");
+    desktop = "";
+    windowManager.name = "i3";
+    source->refreshes = 0;
+    EXPECT_EQ(keys(), "no value");
+    EXPECT_EQ(source->refreshes, 0) << "nobody is asked";
 }
 
 }  // namespace
