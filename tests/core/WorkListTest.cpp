@@ -61,6 +61,10 @@ TEST(WorkList, AVisitCostsNoScan) {
     for (std::size_t i = 0; i < 2 * elements; ++i) list.append(reference(i % elements));
     for (std::size_t i = 0; i < elements; ++i) ASSERT_EQ(numberOf(list.take()), i);
     EXPECT_TRUE(list.empty());
+    const AXUIElementRef last = reference(elements);
+    list.append(last);
+    list.take();
+    EXPECT_EQ(last.use_count(), 1) << "an empty list holds nothing";
     EXPECT_LT(Numbered::comparisons, 10 * elements);
 }
 

@@ -80,6 +80,8 @@ TEST_F(CanvasViewLayout, EveryColumnStartsBehindTheWidthsAndGapsBeforeIt) {
         EXPECT_EQ(view->shortcutsM[first].rect.y, cells[0].rect.y);
         x += view->shortcutsM[first].rect.width + 20;
     }
+    EXPECT_TRUE(desktop.log.contains("-------当前程序每列的宽度----134-------134-------134------142"));
+    EXPECT_TRUE(desktop.log.contains("-----系统每列宽度--129------- 199----- 129"));
     EXPECT_EQ(view->tempRect->width, x - 20 + 30) << "no gap behind the last column";
     EXPECT_EQ(context.fills.at(1).path.elements[3].point.x + 5, x - 20) << "the system's bar is above all of them";
 }
