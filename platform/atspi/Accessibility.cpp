@@ -61,6 +61,7 @@ AXError Accessibility::copyMenuBar(int processIdentifier, AXValue& value) {
     Connection* const bus = bus_.connection(deadline);
     if (bus == nullptr) return AXError::apiDisabled;
 
+    if (slowPrograms_.busEpoch != bus_.epoch()) slowPrograms_ = {bus_.epoch(), {}, {}};
     std::shared_ptr<MenuTree> tree;
     lastRead_ = {};
     const AXError result = readMenus(*bus, processIdentifier, options_, deadline, slowPrograms_, tree, lastRead_);

@@ -39,6 +39,7 @@ struct ReadStatistics {
 
 /// Programs, by their bus name, that are better asked in another way at the next reading.
 struct SlowPrograms {
+    unsigned busEpoch = 0;  // another life of the bus gives the names to others
     /// Their cache holds much besides menus: putting it together takes longer than the questions that it saves.
     std::unordered_set<std::string> caches;
     /// A reading at their own address did not end in time.
