@@ -40,9 +40,12 @@ struct ReadStatistics {
 /// Programs, by their bus name, that are better asked in another way at the next reading.
 struct SlowPrograms {
     unsigned busEpoch = 0;  // another life of the bus gives the names to others
-    /// Their cache holds much besides menus: putting it together takes longer than the questions that it saves.
+    /// Their cache was not to be had though there was a fair time for it, or holds much besides menus: putting it
+    /// together takes longer than the questions that it saves.
     std::unordered_set<std::string> caches;
-    /// A reading at their own address did not end in time.
+    /// A reading at their own address, begun with a fair time left, lasted until the time was over, or found a menu bar
+    /// and lost the connection. Where the first answer there or the cache was missing, the bus was asked within that
+    /// reading, and nothing is held against the address.
     std::unordered_set<std::string> addresses;
 };
 
