@@ -10,12 +10,12 @@
 
 namespace orlamo {
 
-/// Everybody is there except those named in `missing`.
+/// Everybody is there except those named in `missing`, once they have been refreshed; nobody does anything.
 class FakeSessionServices : public desktops::SessionServices {
 public:
-    void refresh() override {}
-    bool isThere(const desktops::SessionDeed& deed) override { return !missing.contains(nameOf(deed)); }
-    bool perform(const desktops::SessionDeed&) override { return true; }
+    void refresh() override { isFresh = true; }
+    bool isThere(const desktops::SessionDeed& deed) override { return isFresh && !missing.contains(nameOf(deed)); }
+    bool perform(const desktops::SessionDeed&) override { return false; }
 
     /// "service method", "minimize", "component action", or the command line with the service it needs.
     static std::string nameOf(const desktops::SessionDeed& deed) {
@@ -30,6 +30,7 @@ public:
         return command.service.empty() ? command.text : text(command.text, command.service);
     }
 
+    bool isFresh = false;
     std::set<std::string> missing;
 };
 
@@ -39,6 +40,7 @@ public:
     void refresh() override { ++refreshes; }
 
     std::optional<std::vector<std::string>> texts(std::string_view schema, std::string_view key) override {
+        whenAsked();
         const auto found = settings.find(std::string(schema) + " " + std::string(key));
         if (found == settings.end()) return std::nullopt;
         return found->second;
@@ -64,6 +66,7 @@ public:
         return found->second.substr(0, limit);
     }
 
+    std::function<void()> whenAsked = [] {};
     std::map<std::string, std::vector<std::string>> settings;  // by "schema key"
     std::optional<std::map<std::string, std::string>> xfconf;
     std::optional<std::vector<desktops::GlobalShortcut>> kde;

@@ -17,6 +17,7 @@ const std::string mediaKeys = "org.gnome.settings-daemon.plugins.media-keys ";
 class SessionMenuTest : public testing::Test {
 protected:
     void SetUp() override {
+        source.whenAsked = [this] { services.isFresh = false; };  // their time begins after the settings' reading
         source.settings = {{mediaKeys + "screensaver", {"<Super>l"}},
                            {mediaKeys + "logout", {"<Control><Alt>Delete"}},
                            {shell + "toggle-overview", {"<Super>s"}},
