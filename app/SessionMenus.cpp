@@ -4,6 +4,7 @@
 #include "platform/Bundle.h"
 #include "platform/EventFlags.h"
 #include "platform/desktops/Desktop.h"
+#include "platform/desktops/GioSettingsSource.h"
 #include "platform/desktops/SessionMenu.h"
 
 namespace orlamo {
@@ -38,7 +39,10 @@ SessionMenus::SessionMenus(desktops::SettingsSource& settings, x11::WindowManage
                            const x11::FocusMemory& focus)
     : settings_(settings), services_(requests(manager, focus)) {}
 
-atspi::SessionMenu SessionMenus::read() {
+atspi::SessionMenu SessionMenus::read(std::chrono::milliseconds timeLeft) {
+    using desktops::GioSessionServices;
+    using desktops::GioSettingsSource;
+    if (timeLeft < GioSettingsSource::longestWait + GioSessionServices::longestWait) return {};
     const auto desktop = desktops::desktopOfNames(desktops::desktopNamesOfEnvironment());
     const auto menu = desktops::readSessionMenu(desktop, settings_, services_);
     atspi::SessionMenu shown{.state = menu.state};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 #include "platform/atspi/MenuTree.h"
 #include "platform/desktops/GioSessionServices.h"
 #include "platform/desktops/SettingsSource.h"
@@ -14,8 +16,9 @@ public:
     /// Keeps all three by reference.
     SessionMenus(desktops::SettingsSource& settings, x11::WindowManager& manager, const x11::FocusMemory& focus);
 
-    /// Read anew each time; its items perform through this object, which must outlive them.
-    atspi::SessionMenu read();
+    /// Read anew each time; none where waiting for those who are asked could take longer than the time that is left.
+    /// Its items perform through this object, which must outlive them.
+    atspi::SessionMenu read(std::chrono::milliseconds timeLeft);
 
 private:
     desktops::SettingsSource& settings_;

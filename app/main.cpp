@@ -187,7 +187,7 @@ int main(int argc, char** argv) {
     const Installed<Accessibility, atspi::Accessibility> accessibility(
         atspi::Options{.baseKeyOfShifted = [&keys](char32_t character) { return keys.baseKeyOfShifted(character); },
                        .applicationName = nameForPeople,
-                       .sessionMenu = [&sessionMenus] { return sessionMenus.read(); },
+                       .sessionMenu = [&sessionMenus](auto timeLeft) { return sessionMenus.read(timeLeft); },
                        .bringForward = bringForward});
 
     activation.answerWaiting();

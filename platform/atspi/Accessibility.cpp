@@ -119,7 +119,7 @@ AXError Accessibility::AXUIElementPerformAction(const AXUIElementRef& element, s
 }
 
 SessionMenuState Accessibility::sessionMenuState() {
-    return options_.sessionMenu ? options_.sessionMenu().state : SessionMenuState::unknownDesktop;
+    return options_.sessionMenu ? options_.sessionMenu(options_.readTime).state : SessionMenuState::unknownDesktop;
 }
 
 bool Accessibility::AXIsProcessTrusted() {

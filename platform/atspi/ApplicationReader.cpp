@@ -26,8 +26,6 @@ constexpr std::size_t mostRoots = 50;  // of one process
 // still answer over the bus, in the time that is left.
 constexpr std::chrono::milliseconds longestGreetingTime{150};
 constexpr std::chrono::milliseconds longestCacheTime{350};
-// What asking the desktop's services may take. With less time left there is no session menu.
-constexpr std::chrono::milliseconds longestSessionMenuTime{400};
 // With less time for it a program is not to blame.
 constexpr std::chrono::milliseconds fairTime{500};
 
@@ -209,9 +207,11 @@ AXError readMenus(Connection& bus, int processIdentifier, const Options& options
                   std::shared_ptr<MenuTree>& tree, ReadStatistics& statistics) {
     const std::vector<ObjectRef> roots = rootsOfProcess(bus, processIdentifier, deadline, statistics.calls);
     // First, so that services which hang take of the time for the program and add none to it.
-    const bool hasTime = deadlineIn(longestSessionMenuTime) <= deadline;
-    const SessionMenu session =
-        options.sessionMenu && hasTime && !roots.empty() ? options.sessionMenu() : SessionMenu{};
+    SessionMenu session;
+    if (options.sessionMenu && !roots.empty()) {
+        const auto timeLeft = deadline - std::chrono::steady_clock::now();
+        session = options.sessionMenu(std::chrono::floor<std::chrono::milliseconds>(timeLeft));
+    }
     const bool isFair = deadlineIn(fairTime) <= deadline;
     const auto isLate = [deadline] { return std::chrono::steady_clock::now() >= deadline; };
     for (const ObjectRef& root : roots) {

@@ -20,8 +20,8 @@ struct Options {
     BaseKeyOfShifted baseKeyOfShifted = baseKeyOfShiftedOnUsLayout;
     /// An application's name for people, by process id; empty: the one it gives itself on the bus.
     std::function<std::string(int processIdentifier)> applicationName;
-    /// Asked for at each reading; empty: the desktop is not known.
-    std::function<SessionMenu()> sessionMenu;
+    /// Asked for at each reading, with the time left for it; empty: the desktop is not known.
+    std::function<SessionMenu(std::chrono::milliseconds timeLeft)> sessionMenu;
     /// Gives an application the input focus back; false: it cannot. Some enable an item only while they have it.
     std::function<bool(int processIdentifier)> bringForward;
     /// For one whole reading, finding the application included.

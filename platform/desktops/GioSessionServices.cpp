@@ -74,7 +74,7 @@ struct GioSessionServices::Parts {
 
     WindowRequests windowManager;
     Owned<GMainContext> context{g_main_context_new()};
-    SessionBus bus{context.get(), std::chrono::milliseconds(150)};
+    SessionBus bus{context.get(), longestWait};
     std::optional<Names> running;  // names on the bus, asked for once
     std::optional<Names> startable;
     std::map<std::string, bool, std::less<>> activeComponents;  // of KDE

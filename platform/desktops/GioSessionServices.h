@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -13,11 +14,13 @@ struct WindowRequests {
     std::function<bool(WindowRequest)> ask;
 };
 
-/// Services on the session bus, the window manager, and programs of the desktop. Looking who is there waits for the bus
-/// 150 ms in all between one refresh() and the next. Performing waits for no answer, and as long for a bus that was
-/// lost.
+/// Services on the session bus, the window manager, and programs of the desktop. Performing waits for no answer, and
+/// for a bus that was lost as long as looking who is there does.
 class GioSessionServices final : public SessionServices {
 public:
+    /// Looking who is there waits for the bus so long in all between one refresh() and the next.
+    static constexpr std::chrono::milliseconds longestWait{150};
+
     explicit GioSessionServices(WindowRequests windowManager);
     ~GioSessionServices() override;
 

@@ -47,8 +47,7 @@ void appendShortcuts(GVariant* answer, const std::string& component, std::vector
 
 struct GioSettingsSource::Parts {
     Owned<GMainContext> context{g_main_context_new()};
-    // A service that has just started takes longer than one that runs.
-    SessionBus bus{context.get(), std::chrono::milliseconds(250)};
+    SessionBus bus{context.get(), longestWait};
     std::map<std::string, Owned<GSettings>, std::less<>> settings;  // by schema; null for one that is not installed
 
     GSettings* settingsOf(std::string_view schemaId) {

@@ -1,15 +1,20 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 #include "platform/desktops/SettingsSource.h"
 
 namespace orlamo::desktops {
 
-/// Reads GSettings, and xfconf and KGlobalAccel over the session bus, and files. Starts no service, and waits for the
-/// bus 250 ms in all between one refresh() and the next. What cannot be read is absent, with a line in the log.
+/// Reads GSettings, and xfconf and KGlobalAccel over the session bus, and files. Starts no service. What cannot be
+/// read is absent, with a line in the log.
 class GioSettingsSource final : public SettingsSource {
 public:
+    /// Reading waits for the bus so long in all between one refresh() and the next. A service that has just started
+    /// takes longer than one that runs.
+    static constexpr std::chrono::milliseconds longestWait{250};
+
     GioSettingsSource();
     ~GioSettingsSource() override;
 
