@@ -35,13 +35,14 @@ desktops::WindowRequests requests(x11::WindowManager& manager, const x11::FocusM
 
 }  // namespace
 
-SessionMenus::SessionMenus(desktops::SettingsSource& settings, x11::WindowManager& manager,
+SessionMenus::SessionMenus(desktops::SharedSettings& settings, x11::WindowManager& manager,
                            const x11::FocusMemory& focus)
     : settings_(settings), services_(requests(manager, focus)) {}
 
 atspi::SessionMenu SessionMenus::read(std::chrono::milliseconds timeLeft) {
     using desktops::GioSessionServices;
     using desktops::GioSettingsSource;
+    settings_.forget();  // of an earlier panel, which may have come to nothing
     if (timeLeft < GioSettingsSource::longestWait + GioSessionServices::longestWait) return {};
     const auto desktop = desktops::desktopOfNames(desktops::desktopNamesOfEnvironment());
     const auto menu = desktops::readSessionMenu(desktop, settings_, services_);

@@ -4,7 +4,7 @@
 
 #include "platform/atspi/MenuTree.h"
 #include "platform/desktops/GioSessionServices.h"
-#include "platform/desktops/SettingsSource.h"
+#include "platform/desktops/SharedSettings.h"
 #include "platform/x11/FocusMemory.h"
 #include "platform/x11/WindowManager.h"
 
@@ -14,14 +14,14 @@ namespace orlamo {
 class SessionMenus {
 public:
     /// Keeps all three by reference.
-    SessionMenus(desktops::SettingsSource& settings, x11::WindowManager& manager, const x11::FocusMemory& focus);
+    SessionMenus(desktops::SharedSettings& settings, x11::WindowManager& manager, const x11::FocusMemory& focus);
 
     /// Read anew each time; none where waiting for those who are asked could take longer than the time that is left.
     /// Its items perform through this object, which must outlive them.
     atspi::SessionMenu read(std::chrono::milliseconds timeLeft);
 
 private:
-    desktops::SettingsSource& settings_;
+    desktops::SharedSettings& settings_;
     desktops::GioSessionServices services_;
 };
 

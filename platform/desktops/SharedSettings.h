@@ -17,6 +17,9 @@ public:
     /// the first reader has just read counts. Must not outlive them.
     std::unique_ptr<SettingsSource> follower();
 
+    /// What was read has no second reader any more, as where what it was read for did not come about.
+    void forget() { isFresh_ = false; }
+
     void refresh() override;
     std::optional<std::vector<std::string>> texts(std::string_view schema, std::string_view key) override;
     std::optional<std::map<std::string, std::string>> properties(std::string_view channel) override;

@@ -116,7 +116,7 @@ TEST_F(DesktopPreferencesTest, LeaveOutWhatTheGnomeShellDoesWhenAnotherShellRuns
     EXPECT_EQ(entry("Budgie:GNOME", "36"), "on [100, 2, 262144]");
 }
 
-TEST(SharedSettings, AnswerTheFollowerWhatWasReadForTheFirstReaderAndAfterThatReadAnew) {
+TEST(SharedSettings, AnswerTheFollowerWhatWasReadForTheFirstReaderAndAfterThatOrWhenForgottenReadAnew) {
     auto* const source = new FakeSettingsSource;
     SharedSettings settings{std::unique_ptr<SettingsSource>(source)};
     const auto follower = settings.follower();
@@ -148,7 +148,9 @@ TEST(SharedSettings, AnswerTheFollowerWhatWasReadForTheFirstReaderAndAfterThatRe
     EXPECT_EQ(settings.globalShortcuts(first), std::nullopt);
     source->kde.emplace();
     EXPECT_EQ(actions(*follower), "none") << "who did not answer is not asked again";
-    EXPECT_EQ(source->refreshes, 3);
+    settings.forget();
+    follower->refresh();
+    EXPECT_EQ(source->refreshes, 4);
 }
 
 // "C-A-Left W-Left: GoToDesktop{to=left}", one line for each binding.
