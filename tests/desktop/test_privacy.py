@@ -87,7 +87,7 @@ class Privacy(DesktopTest):
             end()
             self.program.wait_until_closed()
             self.type_canary(editor)
-        # The focus was with the panel once: then, and only then, keys are told.
+        # Keys were told since the panel had the focus first, so the record sees them; the next one, where they end.
         self.assertIn("raw KeyPress", events.names)
         events = self.recorded()
         self.session.start([PROGRAM]).wait(PATIENCE)
