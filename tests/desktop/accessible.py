@@ -8,7 +8,7 @@ from gi.repository import Gio, GLib  # noqa: E402
 REGISTRY = "org.a11y.atspi.Registry"
 ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
-MENU_BAR, TEXT, CHECK_BOX = 34, 61, 7  # AtspiRole
+MENU_BAR, TEXT, CHECK_BOX, COMBO_BOX, SLIDER = 34, 61, 7, 11, 51  # AtspiRole
 ACTIVE, CHECKED, FOCUSED, SENSITIVE, SHOWING = 1, 4, 12, 24, 25  # AtspiStateType
 BUTTON = 43  # AtspiRole
 
@@ -117,7 +117,7 @@ class AccessibleApplication:
                      if named == name and self.has_state(element, SHOWING)), None)
 
     def area_of(self, element):
-        """(x, y, width, height) on the screen."""
+        """(x, y, width, height) on the screen, also of what is scrolled away."""
         return call(self.bus, *element, "org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)))[0]
 
     def press(self, element):

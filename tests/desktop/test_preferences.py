@@ -1,5 +1,5 @@
 """The preferences, used as a person without a mouse or with a screen reader uses them."""
-from accessible import CHECK_BOX, CHECKED, SENSITIVE, AccessibleApplication
+from accessible import CHECK_BOX, CHECKED, COMBO_BOX, SENSITIVE, SLIDER, AccessibleApplication
 from case import DesktopTest
 from screen import near, wait_until
 from texts import texts
@@ -29,10 +29,13 @@ class Preferences(DesktopTest):
     def find_text(self, text):
         return wait_until(lambda: self.reader.element(text), 5, f"{text!r} on the screen")
 
-    def box(self, key):
-        """A check box that may have to be scrolled to."""
+    def control(self, kind, text):
+        """One that may have to be scrolled to."""
         return wait_until(lambda: next((element for role, name, element in self.reader.elements()
-                                        if role == CHECK_BOX and name == TEXTS[key]), None), 5, f"box {key}")
+                                        if role == kind and name == text), None), 5, f"control {text}")
+
+    def box(self, key):
+        return self.control(CHECK_BOX, TEXTS[key])
 
     def wait_for_setting(self, key, value):
         wait_until(lambda: self.program.settings().get(key) == value, 5, f"{key} = {value}")
@@ -98,14 +101,21 @@ class Preferences(DesktopTest):
         wait_until(lambda: self.reader.element(str(radius)), 5, "number beside the slider")
 
     def test_the_wheel_scrolls_the_page_and_changes_no_control(self):
-        x, y, width, height = self.screen.geometry_of(self.window)
-        for column in range(x + width // 2, x + width - 40, 20):
-            self.screen.move_pointer(column, y + height // 2)
-            for _ in range(6):
-                self.screen.wheel_down()
-        self.find("settings.updates")
+        radius = self.control(SLIDER, TEXTS["settings.radius"])
+        _, top, _, height = self.screen.geometry_of(self.window)
+        self.turn_wheel_over(self.control(COMBO_BOX, "Shift"))
+        while self.reader.area_of(radius)[1] > top + height * 3 // 4:
+            self.turn_wheel_over(radius, top + height // 2)
+        self.turn_wheel_over(radius)
         self.assertNotIn("CornerRadius", self.program.settings())
         self.assertEqual("Shift", self.program.settings()["doubleModifierKey"])
+
+    def turn_wheel_over(self, element, row=None):
+        """And waits until the page follows. In another row: in the middle of that element's column."""
+        before = x, y, width, height = self.reader.area_of(element)
+        self.screen.move_pointer(x + width // 2, row or y + height // 2)
+        self.screen.wheel_down()
+        wait_until(lambda: self.reader.area_of(element) != before, 5, "scrolled page")
 
     def test_an_application_of_the_publisher_is_chosen_by_key_and_press(self):
         self.tab_to(TEXTS["tab.types.settings"])
