@@ -1,5 +1,5 @@
 """The preferences, used as a person without a mouse or with a screen reader uses them."""
-from accessible import CHECK_BOX, CHECKED, COMBO_BOX, SENSITIVE, SLIDER, AccessibleApplication
+from accessible import BUTTON, CHECK_BOX, CHECKED, COMBO_BOX, SENSITIVE, SLIDER, AccessibleApplication
 from case import DesktopTest
 from screen import near, wait_until
 from texts import texts
@@ -140,6 +140,16 @@ class Preferences(DesktopTest):
         shown = filter(None, map(self.reader.element, ("Orlamo", "Tavlumi", "Brenquo", "Yarpeno")))
         places = {self.reader.name_of(card): self.reader.area_of(card) for card in shown}
         return [name for name, (x, y, _, _) in places.items() if near(self.screen.pixel(x, y - 2), LIT, 5)]
+
+    def test_the_preferences_have_the_keyboard_again_after_the_color_was_chosen_or_not(self):
+        button = self.control(BUTTON, TEXTS["settings.color"])
+        for key in self.screen.ESCAPE, "Return":
+            with self.subTest(key):
+                self.reader.press(button)
+                wait_until(lambda: self.screen.active_window() not in (None, self.window), 5, "focus for the colors")
+                self.screen.tap(key)
+                wait_until(lambda: self.screen.active_window() == self.window, 5, "focus for the preferences")
+                wait_until(lambda: self.screen.keyboard_pid() == self.program.pid, 5, "keyboard in the preferences")
 
     def test_the_help_opens_beside_its_button_and_closes_with_escape_or_a_click_elsewhere(self):
         self.tab_to(TEXTS["settings.help"])

@@ -47,6 +47,8 @@ void ColorWellButton::choose() {
         setColor(color);
         if (chosen) chosen();
     });
+    // Some window managers give the focus back to no window that their taskbar leaves out.
+    connect(dialog_, &QColorDialog::finished, this, [this] { window()->activateWindow(); });
     dialog_->open();
 }
 
