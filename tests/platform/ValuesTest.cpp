@@ -12,11 +12,6 @@
 namespace orlamo {
 namespace {
 
-TEST(Geometry, IsPrintedInItsStandardForm) {
-    EXPECT_EQ(describe(Point{3, -0.5}), "(3.0, -0.5)");
-    EXPECT_EQ(describe(Rect{0, 1e21, 12.25, 100}), "(0.0, 1e+21, 12.25, 100.0)");
-}
-
 TEST(Geometry, MaximumEdgesAreOutside) {
     const Rect rect{10, 20, 30, 40};
     EXPECT_TRUE(rect.contains({10, 20}));
@@ -46,22 +41,17 @@ TEST(ColorArchive, ReadsBackExactlyAndRejectsAnythingElse) {
     EXPECT_EQ(archivedDataWithColor({std::numeric_limits<double>::infinity(), 0, 0, 1}), std::nullopt);
 }
 
-TEST(NotificationCenter, ReachesTheObserversOfThatNameUntilTheyStop) {
+TEST(NotificationCenter, DoesNotReachAnObserverThatIsRemovedMeanwhile) {
     NotificationCenter center;
     std::string heard;
-    auto first = center.addObserver("update", [&] { heard += '1'; });
-    std::unique_ptr<NotificationCenter::Observation> third;
-    const auto second = center.addObserver("update", [&] {
-        heard += '2';
-        third.reset();
+    std::unique_ptr<NotificationCenter::Observation> second;
+    const auto first = center.addObserver("update", [&] {
+        heard += '1';
+        second.reset();
     });
-    third = center.addObserver("update", [&] { heard += '3'; });
-    const auto other = center.addObserver("other", [&] { heard += 'o'; });
+    second = center.addObserver("update", [&] { heard += '2'; });
     center.post("update");
-    EXPECT_EQ(heard, "12") << "an observer that is removed meanwhile is not reached";
-    first.reset();
-    center.post("update");
-    EXPECT_EQ(heard, "122");
+    EXPECT_EQ(heard, "1");
 }
 
 TEST(UserDefaultsConversion, ReadsWhatConvertsAndElseLikeAnAbsentValue) {

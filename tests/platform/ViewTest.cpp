@@ -46,7 +46,10 @@ TEST_F(ViewTree, OnlyAChangeOfSizeIsAResize) {
     EXPECT_EQ(probe->oldSizes, (std::vector<Size>{{100, 80}}));
 }
 
-TEST_F(ViewTree, AWindowThatIsReleasedWhenItClosesKeepsNoHost) {
+TEST_F(ViewTree, AWindowStaysWithoutAScreenAndKeepsNoHostWhenItIsClosedAndReleased) {
+    windows.main.reset();
+    window.center();
+    EXPECT_EQ(window.frame(), (Rect{100, 100, 400, 300}));
     window.orderFront();
     window.close();
     EXPECT_FALSE(windows.records.at(0)->isHosted);

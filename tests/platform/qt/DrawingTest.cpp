@@ -77,21 +77,6 @@ TEST_F(Drawing, ABarOfArcsCountedFromTheLowerLeftCornerCoversItsRectangleAndNoth
         EXPECT_NEAR(redAt(image, point.x(), point.y()), 0, 40) << point.x() << ", " << point.y();
 }
 
-TEST_F(Drawing, EdgesOnWholePointsAreSharpAtEveryScale) {
-    for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
-        qt::DisplayList one;
-        one.fill(Path::roundedRect({3, 5, 41, 17}, 0), red);
-        one.finish();
-        const QImage image = painted(one, {60, 31}, scale);
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const int value = redAt(image, x, y);
-                ASSERT_TRUE(value == 0 || value == 255) << "scale " << scale << " at " << x << ", " << y;
-            }
-        }
-    }
-}
-
 TEST_F(Drawing, ATextStandsOnItsLineBoxInItsColour) {
     qt::QtTextMetrics metrics(texts);
     const Size size = metrics.measure("HHH", 20);

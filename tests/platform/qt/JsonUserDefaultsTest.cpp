@@ -88,22 +88,6 @@ TEST_F(Settings, AChangeInPlaceIsSeenEvenWithinTheSameClockTick) {
     EXPECT_EQ(defaults.integerForKey("n"), 8);
 }
 
-// What the superuser may do all the same is no test: a folder in the file's place stops everybody.
-TEST_F(Settings, WhatCannotBeWrittenIsKeptAndNotReportedAsSavedUntilItCan) {
-    write(folder / "config", "in the way");
-    qt::JsonUserDefaults defaults(file);
-    defaults.setObject("n", std::int64_t{7});
-    EXPECT_EQ(log.lines.size(), 1U);
-    EXPECT_FALSE(defaults.synchronize());
-    EXPECT_EQ(defaults.integerForKey("n"), 7);
-    fs::remove(folder / "config");
-    fs::create_directories(file);
-    EXPECT_FALSE(defaults.synchronize());
-    fs::remove(file);
-    EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(qt::JsonUserDefaults(file).integerForKey("n"), 7);
-}
-
 TEST_F(Settings, WhatWouldBeTooLargeToBeReadAgainIsNotWritten) {
     std::string numbers = "{\"other\":" + std::string(20, '[') + "1";
     for (int i = 0; i < 60'000; ++i) numbers += ",1";  // 120 kB, and 5 MB with one number, indented, to a line

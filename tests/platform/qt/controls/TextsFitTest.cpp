@@ -120,9 +120,10 @@ TEST_P(TextsFit, IntoEveryViewAndEveryOutletActionAndImageFindsItsCounterpart) {
 }
 
 TEST_P(TextsFit, IntoWindowsThatHaveATitleASizeAndAStyle) {
-    for (const char* name : {"Preferences", "PrivilegeWindowController"}) {
+    for (const auto& [name, title] : {std::pair{"Preferences", "preferences.window.title"},
+                                      {"PrivilegeWindowController", "permission.window.title"}}) {
         const WindowDescription window = files.window(name);
-        EXPECT_FALSE(window.title.empty()) << name;
+        EXPECT_EQ(window.title, bundle.localizedString(title));
         EXPECT_GE(window.contentSize.width, window.minSize.width) << name;
         EXPECT_GT(window.minSize.height, 200) << name;
     }
