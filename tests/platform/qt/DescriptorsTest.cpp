@@ -11,12 +11,6 @@ namespace {
 
 class Loop : public QtFixture {
 protected:
-    void waitFor(double seconds) {
-        bool isOver = false;
-        loop.asyncAfter(seconds, [&] { isOver = true; });
-        turnEventLoopUntil([&] { return isOver; });
-    }
-
     qt::QtRunLoop loop;
 };
 
@@ -28,7 +22,7 @@ TEST_F(Loop, ATimerMayBeDestroyedByItsOwnTaskAndFiresNoMore) {
         ++*witness;
     });
     turnEventLoopUntil([&] { return *witness == 1; });
-    waitFor(0.02);
+    turnEventLoopFor(0.02);
     EXPECT_EQ(*witness, 1);
     EXPECT_EQ(witness.use_count(), 1) << "the task is gone too";
 }
@@ -43,7 +37,7 @@ TEST_F(Loop, AReadableDescriptorIsHeardUntilItsWatchIsDestroyed) {
     });
     ASSERT_EQ(write(ends[1], "x", 1), 1);
     turnEventLoopUntil([&] { return heard == 2; });
-    waitFor(0.01);
+    turnEventLoopFor(0.01);
     EXPECT_EQ(heard, 2);
     close(ends[0]);
     close(ends[1]);

@@ -1,9 +1,8 @@
-#include <filesystem>
-#include <fstream>
 #include <limits>
 
 #include "platform/qt/JsonUserDefaults.h"
 #include "platform/qt/QtRunLoop.h"
+#include "tests/doubles/TemporaryFolder.h"
 #include "tests/platform/qt/QtFixture.h"
 
 namespace orlamo {
@@ -51,39 +50,21 @@ TEST(SettingsJson, OnlyAWholeObjectIsRead) {
 
 class Settings : public QtFixture {
 protected:
-    Settings() {
-        char name[] = "/tmp/orlamo-settings-XXXXXX";
-        folder = mkdtemp(name);
-        file = folder / "config" / "settings.json";
-    }
-    ~Settings() override { fs::remove_all(folder); }
-
-    void write(const fs::path& path, const std::string& text) {
-        fs::create_directories(path.parent_path());
-        std::ofstream(path) << text;
-    }
-    /// Makes the file a link, to the place that is returned.
-    fs::path link() {
-        fs::create_directories(folder / "elsewhere");
+    void write(const std::string& text) {
         fs::create_directories(file.parent_path());
-        fs::create_symlink("../elsewhere/real.json", file);
-        return folder / "elsewhere" / "real.json";
-    }
-    static std::string read(const fs::path& path) {
-        std::ifstream stream(path);
-        return {std::istreambuf_iterator<char>(stream), {}};
+        std::ofstream(file) << text;
     }
 
-    fs::path folder;
-    fs::path file;
+    const TemporaryFolder folder;
+    const fs::path file = folder.path / "config" / "settings.json";
 };
 
 TEST_F(Settings, AChangeInPlaceIsSeenEvenWithinTheSameClockTick) {
-    write(file, R"({"n": 0})");
+    write(R"({"n": 0})");
     qt::JsonUserDefaults defaults(file);
     for (int i = 1; i < 9; ++i) {
         EXPECT_EQ(defaults.integerForKey("n"), i - 1);
-        write(file, R"({"n": )" + std::to_string(i) + "}");
+        write(R"({"n": )" + std::to_string(i) + "}");
     }
     EXPECT_EQ(defaults.integerForKey("n"), 8);
 }
@@ -92,11 +73,11 @@ TEST_F(Settings, WhatWouldBeTooLargeToBeReadAgainIsNotWritten) {
     std::string numbers = "{\"other\":" + std::string(20, '[') + "1";
     for (int i = 0; i < 60'000; ++i) numbers += ",1";  // 120 kB, and 5 MB with one number, indented, to a line
     numbers += std::string(20, ']') + "}";
-    write(file, numbers);
+    write(numbers);
     qt::JsonUserDefaults defaults(file);
     defaults.setObject("key", true);
     EXPECT_FALSE(defaults.synchronize());
-    EXPECT_EQ(read(file), numbers);
+    EXPECT_EQ(contentOf(file), numbers);
 }
 
 class ObservedSettings : public Settings {
@@ -105,9 +86,7 @@ protected:
     int calls(const std::function<void()>& change) {
         heard = 0;
         change();
-        bool isOver = false;
-        loop.asyncAfter(0.2, [&] { isOver = true; });
-        turnEventLoopUntil([&] { return isOver; });
+        turnEventLoopFor(0.2);
         return heard;
     }
 
@@ -127,14 +106,16 @@ TEST_F(ObservedSettings, EveryWriteAndEveryChangeFromOutsideArriveOnce) {
     EXPECT_FALSE(defaults.boolForKey("watched"));
     EXPECT_EQ(calls([&] { outside.setObject("other", false); }), 0);
     EXPECT_EQ(calls([&] { std::ofstream(file) << R"({"watched": true})"; }), 1) << "written in place";
-    EXPECT_EQ(calls([&] { fs::remove_all(folder); }), 1) << "absent is a change";
+    EXPECT_EQ(calls([&] { fs::remove_all(folder.path); }), 1) << "absent is a change";
     EXPECT_EQ(calls([&] { defaults.setObject("watched", true); }), 1);
     EXPECT_EQ(calls([&] { outside.setObject("watched", false); }), 1) << "the new folder is watched";
 }
 
 TEST_F(ObservedSettings, ALinkedFileIsFollowedAndAnEndedObservationIsSilent) {
-    const fs::path target = link();
-    std::ofstream(target) << "{}";
+    write("{}");
+    const fs::path target = folder.path / "real.json";
+    fs::rename(file, target);
+    fs::create_symlink("../real.json", file);
     qt::JsonUserDefaults defaults(file);
     auto observation = defaults.addObserver("watched", [this] { ++heard; });
     EXPECT_EQ(calls([&] { std::ofstream(target) << R"({"watched": 1})"; }), 1);

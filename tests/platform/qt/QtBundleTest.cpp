@@ -22,19 +22,6 @@ protected:
     FakePropertyListParser parser;
 };
 
-TEST_F(BundleOfFiles, AnswersFromItsInformationAndFiles) {
-    parser.result.value =
-        PropertyList::Dictionary{{"CFBundleIdentifier", std::string("a.b")}, {"CFBundleShortVersionString", 1.5}};
-    const qt::QtBundle bundle(built, {"en"});
-    EXPECT_EQ(bundle.bundleIdentifier(), "a.b");
-    EXPECT_EQ(bundle.infoDictionaryValue("CFBundleShortVersionString"), PropertyList(1.5));
-    EXPECT_EQ(bundle.infoDictionaryValue("other"), PropertyList());
-    EXPECT_EQ(bundle.pathForResource("Info", "plist"), (built / "Info.plist").string());
-    EXPECT_EQ(bundle.pathForResource("Info", "other"), std::nullopt);
-    EXPECT_EQ(bundle.pathForResource("", ""), std::nullopt);
-    EXPECT_TRUE(log.lines.empty());
-}
-
 // What the toolkit makes of $LANGUAGE, or without it of $LC_ALL, $LC_MESSAGES or $LANG.
 TEST_F(BundleOfFiles, SpeaksTheFirstOfTheUsersLanguagesThatItHas) {
     const std::vector<std::pair<QStringList, const char*>> cases{

@@ -46,6 +46,11 @@ protected:
         while (!condition() && timer.elapsed() < 5000) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         EXPECT_TRUE(condition()) << "not within five seconds";
     }
+    static void turnEventLoopFor(double seconds) {
+        bool isOver = false;
+        QTimer::singleShot(static_cast<int>(seconds * 1000), [&] { isOver = true; });
+        turnEventLoopUntil([&] { return isOver; });
+    }
 
     FakeLog log;
 };

@@ -19,8 +19,7 @@ constexpr const char* page = R"(<ui version="4.0"><class>Page</class><widget cla
 <property name="geometry"><rect><x>0</x><y>0</y><width>300</width><height>200</height></rect></property>
 <layout class="QVBoxLayout" name="rows">
 <item><widget class="QCheckBox" name="box"><property name="text"><string>box.title</string></property>
- <property name="action" stdset="0"><string notr="true">check:</string></property>
- <property name="tag" stdset="0"><number>3</number></property></widget></item>
+ <property name="action" stdset="0"><string notr="true">check:</string></property></widget></item>
 <item><widget class="QPushButton" name="button"><property name="text"><string>lacking.key</string></property>
  <property name="image" stdset="0"><string notr="true">picture</string></property>
  <property name="action" stdset="0"><string notr="true">press:</string></property></widget></item>
