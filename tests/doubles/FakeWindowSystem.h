@@ -15,8 +15,6 @@ struct FakeWindowRecord {
     Window* window = nullptr;
     std::vector<Rect> frames;
     int orderFronts = 0;
-    int orderOuts = 0;
-    int displayRequests = 0;
     bool isOnScreen = false;
     bool isHosted = true;  // false once the host is gone
 };
@@ -24,10 +22,7 @@ struct FakeWindowRecord {
 class FakeWindowHost : public WindowHost {
 public:
     explicit FakeWindowHost(std::shared_ptr<FakeWindowRecord> record) : record_(std::move(record)) {}
-    ~FakeWindowHost() override {
-        record_->isHosted = false;
-        record_->isOnScreen = false;
-    }
+    ~FakeWindowHost() override { record_->isHosted = record_->isOnScreen = false; }
 
     void frameChanged(const Rect& frame) override { record_->frames.push_back(frame); }
     /// Runs no drawing pass by itself: the test draws, with the context it looks at.
@@ -35,12 +30,9 @@ public:
         ++record_->orderFronts;
         record_->isOnScreen = true;
     }
-    void orderOut() override {
-        ++record_->orderOuts;
-        record_->isOnScreen = false;
-    }
+    void orderOut() override { record_->isOnScreen = false; }
     void makeKey() override {}
-    void setNeedsDisplay() override { ++record_->displayRequests; }
+    void setNeedsDisplay() override {}
 
 private:
     std::shared_ptr<FakeWindowRecord> record_;

@@ -103,25 +103,21 @@ protected:
 
 // Each row: one call of one write fails in one way.
 TEST_F(SettingsFaults, AnErrorAtAnyCallLeavesOldOrNewContentAndIsNeverReportedAsSaved) {
-    struct Kind {
-        const char* name;
-        Answer answer;
-    };
-    const Kind kinds[] = {{"ENOSPC", {ENOSPC}}, {"EDQUOT", {EDQUOT}}, {"EIO", {EIO}},       {"EROFS", {EROFS}},
-                          {"EACCES", {EACCES}}, {"EINTR", {EINTR}},   {"EMFILE", {EMFILE}}, {"short", {0, true}},
-                          {"EINVAL", {EINVAL}}, {"ENOSYS", {ENOSYS}}};
+    const std::pair<const char*, Answer> kinds[] = {
+        {"ENOSPC", {ENOSPC}}, {"EDQUOT", {EDQUOT}}, {"EIO", {EIO}},       {"EROFS", {EROFS}},   {"EACCES", {EACCES}},
+        {"EINTR", {EINTR}},   {"EMFILE", {EMFILE}}, {"short", {0, true}}, {"EINVAL", {EINVAL}}, {"ENOSYS", {ENOSYS}}};
     int rows = 0;
     for (const Start& start : starts) {
-        for (const Kind& kind : kinds) {
+        for (const auto& [kind, answer] : kinds) {
             for (auto [number, isReached] = std::pair(1, true); isReached; ++number, ++rows) {
                 prepare(start);
-                std::string where = std::string(start.name) + ", " + kind.name + " at call " + std::to_string(number);
+                std::string where = std::string(start.name) + ", " + kind + " at call " + std::to_string(number);
                 qt::JsonUserDefaults defaults(file);
                 defaults.objectForKey("n");
                 {
                     SystemCalls calls([&](int each, std::string_view call) {
                         if (each == number) (where += ", ").append(call) += ": ";
-                        return each == number ? kind.answer : Answer{};
+                        return each == number ? answer : Answer{};
                     });
                     defaults.setObject("n", next);
                     isReached = calls.made() >= number;
