@@ -44,6 +44,11 @@ class Typist:
         return next((line for line in self.say(f"{code} {flags} 1\n{code} {flags} 0\n\n") if " is not posted: " in line),
                     None)
 
+    def end(self):
+        """In order; its exit status."""
+        self.process.stdin.close()
+        return self.process.wait(10)
+
     def kill(self):
         self.process.kill()
         self.process.wait()
@@ -132,6 +137,7 @@ class Typing(DesktopTest):
                     arrived += 1
                 with fiddler.lock:
                     self.assertEqual(fiddler.keyboard.held, self.keyboard.down())
+        self.assertEqual(0, typist.end())
         self.assertEqual((set(), 0), (self.keyboard.down(), self.keyboard.modifiers()))
         print(f"{layout}: {count} combinations: {arrived} arrived, {refused} refused; "
               f"the user pressed or released {fiddler.actions} times meanwhile")
