@@ -2,7 +2,6 @@
 
 #include <plist/plist.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
@@ -117,33 +116,25 @@ PropertyListParser::Result refused(const std::string& why) {
     return {.value = {}, .error = "not a readable property list: " + why};
 }
 
-PropertyListParser::Result parsed(std::span<const std::uint8_t> data) {
-    const bool binary = isBinary(data);
-    if (const auto why = binary ? objectionToBinary(data) : objectionToXml(data); !why.empty()) return refused(why);
-
-    plist_t root = nullptr;
-    const auto* const bytes = reinterpret_cast<const char*>(data.data());
-    const auto length = static_cast<std::uint32_t>(data.size());
-    if (binary) {
-        plist_from_bin(bytes, length, &root);
-    } else {
-        plist_from_xml(bytes, length, &root);
-    }
-    const Node owner(root);
-    if (root == nullptr) return refused(binary ? "its binary form is damaged" : "its XML is no property list");
-    return {.value = converted(root), .error = {}};
-}
-
 }  // namespace
 
 PropertyListParser::Result LibplistParser::propertyListWithData(std::span<const std::uint8_t> data) {
     if (data.empty()) return refused("it is empty");
     if (data.size() > maximumBytes) return refused("more than 1 MiB");
-    if (!std::ranges::equal(data, bytes_)) {
-        result_ = parsed(data);
-        bytes_.assign(data.begin(), data.end());
+    const bool binary = isBinary(data);
+    if (const auto why = binary ? objectionToBinary(data) : objectionToXml(data); !why.empty()) return refused(why);
+
+    plist_t parsed = nullptr;
+    const auto* const bytes = reinterpret_cast<const char*>(data.data());
+    const auto length = static_cast<std::uint32_t>(data.size());
+    if (binary) {
+        plist_from_bin(bytes, length, &parsed);
+    } else {
+        plist_from_xml(bytes, length, &parsed);
     }
-    return result_;
+    const Node owner(parsed);
+    if (parsed == nullptr) return refused(binary ? "its binary form is damaged" : "its XML is no property list");
+    return {.value = converted(parsed), .error = {}};
 }
 
 }  // namespace orlamo::plist

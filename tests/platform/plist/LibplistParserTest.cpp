@@ -10,9 +10,7 @@ using Dictionary = PropertyList::Dictionary;
 using Array = PropertyList::Array;
 
 PropertyListParser::Result parse(const Bytes& data) {
-    static LibplistParser parser;  // what it keeps of one list is no answer for the next
-    parser.propertyListWithData(data);
-    return parser.propertyListWithData(data);
+    return LibplistParser().propertyListWithData(data);
 }
 
 PropertyListParser::Result parse(std::string_view text) {
