@@ -28,7 +28,7 @@ PropertyList withParameters(PropertyList parameters) {
 
 struct SystemShortcuts : testing::Test, FakeDesktop {
     SystemShortcuts() {
-        std::ofstream(file) << "the shipped list";
+        std::ofstream(file) << list;
         bundle.resources["com.apple.symbolichotkeys.plist"] = file;
     }
     ~SystemShortcuts() override { std::remove(file.c_str()); }
@@ -54,6 +54,7 @@ struct SystemShortcuts : testing::Test, FakeDesktop {
         return lines;
     }
 
+    const std::string list = "the shipped list" + std::string(20'000, '.');
     // Of this process alone, as tests run side by side.
     const std::string file = testing::TempDir() + "orlamo_hot_keys_" + std::to_string(getpid());
 };
@@ -140,7 +141,7 @@ TEST_F(SystemShortcuts, TheDefaultListIsReadForEveryRowThatNeedsIt) {
     preferences.setHotKeys(Dictionary{});
     setDefaults({{"52", hotKey(true, 2)}, {"64", hotKey(false, 3)}});
     EXPECT_EQ(loaded().size(), 2U);
-    EXPECT_EQ(parser.parsed, std::vector<std::string>(44, "the shipped list"));
+    EXPECT_EQ(parser.parsed, std::vector<std::string>(44, list));
     EXPECT_EQ(std::vector(log.lines.begin(), log.lines.begin() + 5),
               (std::vector<std::string>{"----------- 没有值: 52 -------------- ", "Successfully loaded plist file:",
                                         "数字:52", "-----------", "详细:" + hotKey(true, 2).description()}));

@@ -21,6 +21,7 @@ public:
         int pointSize = 0;
         Color color;
         Point origin;
+        std::size_t fillsBelow = 0;
         bool operator==(const Text&) const = default;
     };
 
@@ -37,7 +38,7 @@ public:
         fills.push_back({std::move(moved), color});
     }
     void drawText(std::string_view text, int pointSize, const Color& color, Point origin) override {
-        texts.push_back({std::string(text), pointSize, color, absolute(origin)});
+        texts.push_back({std::string(text), pointSize, color, absolute(origin), fills.size()});
     }
     void pushOrigin(Point origin) override { origins_.push_back(absolute(origin)); }
     void popOrigin() override { origins_.pop_back(); }

@@ -110,6 +110,7 @@ TEST_F(CanvasViewDrawing, AMenuHeadingIsABarAndASubmenuHeadingATriangle) {
     EXPECT_EQ(context.find("/Odd"), nullptr);
     const double y = view->currentShortM.at(0).rect.y;
     EXPECT_EQ(context.find("Edit")->pointSize, 16);
+    EXPECT_EQ(context.find("Edit")->fillsBelow, 3U) << "two title bars and its own";
     EXPECT_EQ(context.find("Edit")->origin, (Point{20, y + 60 + 1}));
     const auto& bar = context.fills.at(2).path.elements;
     EXPECT_EQ(bar[1].point, (Point{5, y + 60 + 5}));
@@ -131,6 +132,7 @@ TEST_F(CanvasViewDrawing, TheHoveredCellIsUnderlaidInBlueAndNamedOnceAPass) {
     desktop.log.lines.clear();
     draw();
     EXPECT_THAT(hoverFills(), ElementsAre(second));
+    EXPECT_EQ(context.texts.back().fillsBelow, context.fills.size());
     EXPECT_EQ(desktop.log.count("Editor====当前文字:Save ----37 "), 1);
     view->isMouseInsideRect = false;
     draw();
