@@ -130,6 +130,10 @@ TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOve
     addItem(fits);
     open();
     EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(25 * 0.6 * 14) + 80 + 10);
+    desktop.metrics.width = 0.604;  // 151 points
+    open();
+    EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(28 * 0.604 * 14) + 80 + 10);
+    desktop.metrics.width = 0.6;
     addItem(tooLong);
     open();
     EXPECT_NE(context.find(tooLong.substr(0, 25) + "..."), nullptr);
