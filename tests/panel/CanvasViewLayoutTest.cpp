@@ -132,7 +132,7 @@ TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOve
     EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(25 * 0.6 * 14) + 80 + 10);
     desktop.metrics.width = 0.604;  // 151 points
     open();
-    EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(28 * 0.604 * 14) + 80 + 10);
+    EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(27 * 0.604 * 14) + 80 + 10);
     desktop.metrics.width = 0.6;
     addItem(tooLong);
     open();
