@@ -135,7 +135,9 @@ TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOve
     EXPECT_EQ(view->currentShortM.at(0).rect.width, static_cast<int>(27 * 0.604 * 14) + 80 + 10);
     desktop.metrics.width = 0.6;
     addItem(tooLong);
+    addItem(std::string(19, 'x'));  // less than 150 at 13 points
     open();
+    EXPECT_EQ(view->currentShortM.at(2).title, std::string(19, 'x'));
     EXPECT_NE(context.find(tooLong.substr(0, 25) + "..."), nullptr);
     EXPECT_EQ(view->currentShortM.at(1).title, tooLong.substr(0, 25) + "...");
     EXPECT_EQ(view->currentShortM.at(1).rect.width, static_cast<int>(28 * 0.6 * 14) + 80 + 10);
