@@ -91,6 +91,7 @@ TEST_F(CanvasViewDrawing, ABarIsFiveArcsClockwiseAndTheSystemsKeepsItsWidthTurne
         EXPECT_EQ(element.radius, 5);
         angles.emplace_back(element.startAngle, element.endAngle);
     }
+    EXPECT_EQ(context.fills.at(0).path.elements.back().verb, Path::Verb::close);
     EXPECT_THAT(angles,
                 ElementsAre(Angles{-50, -90}, Angles{-90, -180}, Angles{180, 90}, Angles{90, 0}, Angles{0, -50}));
     const auto& elements = context.fills.at(1).path.elements;
