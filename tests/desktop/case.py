@@ -17,7 +17,7 @@ EVIDENCE = pathlib.Path(os.environ.get("ORLAMO_EVIDENCE", ROOT / "build/desktop-
 
 def repetitions(few, many):
     """How often a test tries. ORLAMO_ENDURANCE, which `make endurance` sets to 1, says how many times `many`."""
-    return many * int(os.environ.get("ORLAMO_ENDURANCE", 0)) or few
+    return many * int(os.environ.get("ORLAMO_ENDURANCE") or 0) or few
 
 
 class DesktopTest(unittest.TestCase):
@@ -62,7 +62,7 @@ class DesktopTest(unittest.TestCase):
 
     def _keep_evidence(self):
         result = self._outcome.result
-        if self not in [test for test, _ in result.failures + result.errors]:
+        if self not in [getattr(test, "test_case", test) for test, _ in result.failures + result.errors]:
             return
         folder = EVIDENCE / self._testMethodName
         folder.mkdir(parents=True, exist_ok=True)

@@ -1,4 +1,5 @@
 """The settings file, as the user and other programs see it."""
+import os
 import stat
 
 from case import DesktopTest
@@ -42,3 +43,18 @@ class Settings(DesktopTest):
         self.wait_out_the_double_press()
         program.open_panel()
         self.assertLessEqual(sum(SHOWS in line for line in program.log.lines()), 2)
+
+    def test_a_pipe_or_a_folder_where_the_settings_file_should_be_is_said_and_not_written_over(self):
+        place = self.session.config / "orlamo" / "settings.json"
+        place.parent.mkdir()
+        self.session.open_editor("mousepad")
+        for make, remove in ((os.mkfifo, os.unlink), (os.mkdir, os.rmdir)):
+            make(place)
+            before = place.stat()
+            program = self.start_program()
+            self.assertIsNotNone(program.log.find("settings.json"))
+            program.open_panel()
+            program.stop()
+            self.assertTrue(os.path.samestat(before, place.stat()))
+            remove(place)
+            self.wait_out_the_double_press()

@@ -47,8 +47,11 @@ void ColorWellButton::choose() {
         setColor(color);
         if (chosen) chosen();
     });
-    // Some window managers give the focus back to no window that their taskbar leaves out.
-    connect(dialog_, &QColorDialog::finished, this, [this] { window()->activateWindow(); });
+    // Some window managers give the focus back to no window that their taskbar leaves out. A window that goes itself
+    // takes its dialog along, and gets none.
+    connect(dialog_, &QColorDialog::finished, this, [this] {
+        if (window()->isVisible()) window()->activateWindow();
+    });
     dialog_->open();
 }
 

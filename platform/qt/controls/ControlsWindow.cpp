@@ -59,8 +59,8 @@ void ControlsWindow::roundCorners(double radius) {
 
 void ControlsWindow::retire() {
     listener_ = nullptr;
+    hide();  // first: a dialog that ends gives the focus back to a window that is to be seen
     for (QDialog* const dialog : findChildren<QDialog*>()) dialog->reject();
-    hide();
     if (content_ != nullptr) {
         content_->setGraphicsEffect(nullptr);
         content_->setParent(nullptr);
