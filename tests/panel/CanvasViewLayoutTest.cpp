@@ -136,8 +136,10 @@ TEST_F(CanvasViewLayout, ATitleOfMoreThan150PointsIsShortenedToItsFirstPrefixOve
     desktop.metrics.width = 0.6;
     addItem(tooLong);
     addItem(std::string(19, 'x'));  // less than 150 at 13 points
+    addItem(std::string(20, 'x'));
     open();
     EXPECT_EQ(view->currentShortM.at(2).title, std::string(19, 'x'));
+    EXPECT_EQ(view->currentShortM.at(3).title, std::string(19, 'x') + "...");
     EXPECT_NE(context.find(tooLong.substr(0, 25) + "..."), nullptr);
     EXPECT_EQ(view->currentShortM.at(1).title, tooLong.substr(0, 25) + "...");
     EXPECT_EQ(view->currentShortM.at(1).rect.width, static_cast<int>(28 * 0.6 * 14) + 80 + 10);
@@ -154,10 +156,12 @@ TEST_F(CanvasViewLayout, APrefixOfJust147PointsIsNotOverItAndAListWithoutANameHa
         appMenuItems.pop_back();
     }
     addItem("Wide");
+    addItem("W");
     desktop.metrics.width = 15;  // 150 points for the first character alone
     draw();
-    ASSERT_EQ(view->currentShortM.size(), 2U);
+    ASSERT_EQ(view->currentShortM.size(), 3U);
     EXPECT_EQ(view->currentShortM[1].title, "W...");
+    EXPECT_EQ(view->currentShortM[2].title, "...");
 }
 
 TEST_F(CanvasViewLayout, ALigatureBehindTheFirstPrefixThatIsTooWideHidesItNot) {

@@ -57,6 +57,7 @@ TEST(Format, TakesArgumentsInOrderOrByPositionAndLeavesWhatItCannotFill) {
     for (const char* const same : {"", "%3$@ %0$@", "%", "%1", "%1$", "%d %-1$@", "%99999999999999999999$@"}) {
         EXPECT_EQ(formatted(same, arguments), same);
     }
+    EXPECT_EQ(formatted(std::string_view("%1$@").substr(0, 3), arguments), "%1$") << "what stands behind is not read";
 }
 
 }  // namespace
