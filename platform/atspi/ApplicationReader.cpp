@@ -215,7 +215,7 @@ AXError readMenus(Connection& bus, int processIdentifier, const Options& options
     const bool isFair = deadlineIn(fairTime) <= deadline;
     const auto isLate = [deadline] { return std::chrono::steady_clock::now() >= deadline; };
     for (const ObjectRef& root : roots) {
-        if (std::chrono::steady_clock::now() >= deadline) break;
+        if (isLate()) break;
         const Application application = askApplication(bus, root, deadline, statistics.calls);
         const auto [own, known] = wayTo(bus, application, processIdentifier, deadline, slow, statistics.calls);
         statistics.usedCache = !known.empty();
